@@ -1,0 +1,1 @@
+# the package for find_package(OrtinControls)
