@@ -1,15 +1,12 @@
 #pragma once
 
+#include "OrtinMfcApi.h"
+#include "atlstr.h"
+
 #include <cstddef>
 
 #include <tchar.h>
 #include <windows.h>
-
-#ifdef ORTIN_MFC_EXPORTS
-#define ORTIN_MFC_API __declspec(dllexport)
-#else
-#define ORTIN_MFC_API __declspec(dllimport)
-#endif
 
 #define afx_msg
 #define AFX_MSG_CALL

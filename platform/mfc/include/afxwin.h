@@ -1,3 +1,4 @@
 #pragma once
 
 #include "afx.h"
+#include "atltypes.h"
