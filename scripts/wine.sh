@@ -1,0 +1,66 @@
+# shellcheck shell=bash
+# Wine prefixes, one for each DPI, and the environment in which Wine runs a program.
+
+wine_program=/usr/lib/wine/wine64
+
+# build_folder_of PROGRAM: the CMake build folder that holds PROGRAM.
+build_folder_of() {
+    local folder
+    folder=$(cd "$(dirname "$1")" && pwd) || return 1
+    while [ ! -e "$folder/CMakeCache.txt" ]; do
+        [ "$folder" != / ] || return 1
+        folder=$(dirname "$folder")
+    done
+    echo "$folder"
+}
+
+# use_wine_environment PREFIX: what every Wine process of the project sees. Code page and formats follow the locale.
+use_wine_environment() {
+    export WINEPREFIX=$1 WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree,mshtml="
+    export LC_ALL=pl_PL.UTF-8
+    unset LANG LANGUAGE LC_CTYPE
+}
+
+wine_settings() {
+    local dpi=$1
+    cat <<EOF
+Windows Registry Editor Version 5.00
+
+[HKEY_CURRENT_USER\\Control Panel\\Desktop]
+"LogPixels"=dword:$(printf '%08x' "$dpi")
+"FontSmoothing"="0"
+"FontSmoothingType"=dword:00000000
+
+[HKEY_CURRENT_USER\\Software\\Wine]
+"Version"="win10"
+
+[HKEY_CURRENT_USER\\Software\\Wine\\X11 Driver]
+"Managed"="N"
+EOF
+}
+
+# ensure_wine_prefix PREFIX DPI: makes the prefix once, however many processes ask for it at the same time.
+# Without a window manager each activation of a managed window costs two seconds, hence Managed=N.
+ensure_wine_prefix() {
+    local prefix=$1 dpi=$2 settings lock
+    settings=$(wine_settings "$dpi")
+    [ "$(cat "$prefix/settings.reg" 2>/dev/null)" != "$settings" ] || return 0
+    mkdir -p "$prefix"
+    exec {lock}>>"$prefix.lock"
+    flock "$lock"
+    if [ "$(cat "$prefix/settings.reg" 2>/dev/null)" != "$settings" ]; then
+        echo "Making a Wine prefix of $dpi DPI..." >&2
+        printf '%s\n' "$settings" >"$prefix/settings.new"
+        if ! make_wine_prefix "$prefix" >"$prefix.log" 2>&1 {lock}>&-; then
+            echo "error: the Wine prefix could not be made, see $prefix.log" >&2
+            return 1
+        fi
+        mv "$prefix/settings.new" "$prefix/settings.reg"
+    fi
+    exec {lock}>&-
+}
+
+make_wine_prefix() {
+    without_display_lock "$wine_program" wineboot -i </dev/null &&
+        without_display_lock "$wine_program" regedit /S "Z:${1//\//\\}\\settings.new" </dev/null
+}
