@@ -1,4 +1,5 @@
 #pragma once
 
 #include "afx.h"
+#include "afxwin_gdi.h"
 #include "atltypes.h"

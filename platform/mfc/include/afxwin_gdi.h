@@ -1,0 +1,5 @@
+#pragma once
+
+#include "afxwin_dc.h"
+#include "afxwin_gdiobject.h"
+#include "afxwin_menu.h"
