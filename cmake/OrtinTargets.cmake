@@ -30,7 +30,8 @@ endfunction()
 
 # ortin_test(NAME SOURCES a.cpp... LIBRARIES x... [DPI144] [DISPLAY]): one program and one CTest entry, or two.
 #   DPI144   the program runs again, as NAME@144 with the label dpi144, where a logical inch has 144 pixels
-#   DISPLAY  the program moves the real mouse, types or needs the focus: it never runs beside another such program
+#   DISPLAY  the program moves the real mouse, types or needs the focus: it runs alone, so that nobody's window covers
+#            its own
 function(ortin_test name)
     cmake_parse_arguments(arg "DPI144;DISPLAY" "" "SOURCES;LIBRARIES" ${ARGN})
     ortin_need_googletest()
@@ -50,6 +51,6 @@ function(ortin_test name)
     endif()
     set_tests_properties(${entries} PROPERTIES TIMEOUT 600)
     if(arg_DISPLAY)
-        set_tests_properties(${entries} PROPERTIES RESOURCE_LOCK display)
+        set_tests_properties(${entries} PROPERTIES RUN_SERIAL TRUE)
     endif()
 endfunction()

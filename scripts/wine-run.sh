@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# wine-run.sh DPI PROGRAM ARGS...: runs a Windows program where a logical inch has DPI pixels; ends with its exit code.
+# wine-run.sh [--desktop] DPI PROGRAM ARGS...: runs a Windows program where a logical inch has DPI pixels; ends with its
+# exit code. --desktop is for a person: the windows are handed to the window manager where there is one.
 # Prefix and virtual display belong to the build folder that holds the program, or to ORTIN_WINE_FOLDER.
 set -euo pipefail
 scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -8,8 +9,13 @@ scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 # shellcheck source=scripts/wine.sh
 . "$scripts/wine.sh"
 
+desktop=no
+if [ "${1:-}" = --desktop ]; then
+    desktop=yes
+    shift
+fi
 if [ $# -lt 2 ]; then
-    echo "usage: wine-run.sh DPI PROGRAM [ARGS...]" >&2
+    echo "usage: wine-run.sh [--desktop] DPI PROGRAM [ARGS...]" >&2
     exit 2
 fi
 dpi=$1
@@ -37,8 +43,14 @@ fi
 mkdir -p "$folder"
 
 usable_display || hold_virtual_display "$folder"
-use_wine_environment "$folder/$dpi"
-ensure_wine_prefix "$folder/$dpi" "$dpi"
+prefix=$folder/$dpi
+managed=N
+if [ "$desktop" = yes ] && window_manager_runs; then
+    prefix=$folder/$dpi-desktop
+    managed=Y
+fi
+use_wine_environment "$prefix"
+ensure_wine_prefix "$prefix" "$dpi" "$managed"
 
 status=0
 without_display_lock "$wine_program" "$program" "$@" || status=$?

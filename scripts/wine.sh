@@ -21,13 +21,18 @@ use_wine_environment() {
     unset LANG LANGUAGE LC_CTYPE
 }
 
+# window_manager_runs: whether somebody else frames the windows and moves the focus on this display.
+window_manager_runs() {
+    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
+}
+
+# wine_settings DPI MANAGED: without a window manager each activation of a managed window costs two seconds.
 wine_settings() {
-    local dpi=$1
     cat <<EOF
 Windows Registry Editor Version 5.00
 
 [HKEY_CURRENT_USER\\Control Panel\\Desktop]
-"LogPixels"=dword:$(printf '%08x' "$dpi")
+"LogPixels"=dword:$(printf '%08x' "$1")
 "FontSmoothing"="0"
 "FontSmoothingType"=dword:00000000
 
@@ -35,15 +40,14 @@ Windows Registry Editor Version 5.00
 "Version"="win10"
 
 [HKEY_CURRENT_USER\\Software\\Wine\\X11 Driver]
-"Managed"="N"
+"Managed"="$2"
 EOF
 }
 
-# ensure_wine_prefix PREFIX DPI: makes the prefix once, however many processes ask for it at the same time.
-# Without a window manager each activation of a managed window costs two seconds, hence Managed=N.
+# ensure_wine_prefix PREFIX DPI [MANAGED]: makes the prefix once, however many processes ask for it at the same time.
 ensure_wine_prefix() {
     local prefix=$1 dpi=$2 settings lock
-    settings=$(wine_settings "$dpi")
+    settings=$(wine_settings "$dpi" "${3:-N}")
     [ "$(cat "$prefix/settings.reg" 2>/dev/null)" != "$settings" ] || return 0
     mkdir -p "$prefix"
     exec {lock}>>"$prefix.lock"

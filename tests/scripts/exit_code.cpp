@@ -1,0 +1,5 @@
+#include <cstdlib>
+
+int main(int count, char** arguments) {
+    return count > 1 ? std::atoi(arguments[1]) : 0;
+}
