@@ -1,0 +1,9 @@
+#include "OrtinFoundation/ResourceHandleManager.h"
+
+ResourceHandleManager::ResourceHandleManager(HINSTANCE module) : m_previous(AfxGetResourceHandle()) {
+    AfxSetResourceHandle(module);
+}
+
+ResourceHandleManager::~ResourceHandleManager() {
+    AfxSetResourceHandle(m_previous);
+}
