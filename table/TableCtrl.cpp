@@ -68,13 +68,13 @@ int TableCtrl::Create(int id, CWnd* parent, bool replaceDialogItem) {
 }
 
 bool TableCtrl::createChildren() {
-    if (!m_state->header.Create(this)) {
+    if (!m_state->header.createIn(this)) {
         return false;
     }
     UpdateHeaderPos();
     createHeaderFont();
     m_state->header.ShowWindow(SW_SHOW);
-    if (!m_state->list.Create(this)) {
+    if (!m_state->list.createIn(this)) {
         return false;
     }
     UpdateListPos();

@@ -4,12 +4,9 @@
 
 #include <OrtinControls/SystemColors.h>
 
-// The platform's GDI+ headers use min and max without a namespace.
-using std::max;
-using std::min;
-#include <gdiplus.h>
 #include <objidl.h>
 
+#include "../graphics/GdiPlusHeaders.h"
 #include "TableMessages.h"
 
 namespace {
@@ -47,8 +44,8 @@ BEGIN_MESSAGE_MAP(TableHeaderCtrl, CHeaderCtrl)
     ON_WM_MOUSEMOVE()
 END_MESSAGE_MAP()
 
-BOOL TableHeaderCtrl::Create(CWnd* parent) {
-    return CHeaderCtrl::Create(WS_CHILD | HDS_DRAGDROP, CRect(), parent, kWindowId);
+BOOL TableHeaderCtrl::createIn(CWnd* parent) {
+    return Create(WS_CHILD | HDS_DRAGDROP, CRect(), parent, kWindowId);
 }
 
 void TableHeaderCtrl::showSortArrow(int id, bool descending, bool show) {
@@ -105,7 +102,7 @@ void TableHeaderCtrl::setItemWidth(int id, int width) {
 
 std::vector<int> TableHeaderCtrl::itemOrder() const {
     std::vector<int> order(static_cast<std::size_t>(itemCount()));
-    if (!order.empty() && !GetOrderArray(order.data(), static_cast<int>(order.size()))) {
+    if (!order.empty() && !Header_GetOrderArray(m_hWnd, order.size(), order.data())) {
         order.clear();
     }
     return order;

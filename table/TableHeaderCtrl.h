@@ -13,7 +13,7 @@ public:
 
     TableHeaderCtrl() = default;
 
-    BOOL Create(CWnd* parent);
+    BOOL createIn(CWnd* parent);
     void enableMovingColumns(bool enable) { m_drag.mouseMovingColumns = enable; }
     /// Shows the sort arrow on the column `id` and on no other, or on none.
     void showSortArrow(int id, bool descending, bool show);

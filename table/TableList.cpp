@@ -34,8 +34,8 @@ TableList::TableList(ITableView* view) : m_view(view), m_tickFrequency(readTickF
 
 TableList::~TableList() = default;
 
-BOOL TableList::Create(CWnd* parent) {
-    return CWnd::Create(nullptr, L"", WS_CHILD | WS_VSCROLL | WS_TABSTOP, CRect(), parent, kWindowId);
+BOOL TableList::createIn(CWnd* parent) {
+    return Create(nullptr, L"", WS_CHILD | WS_VSCROLL | WS_TABSTOP, CRect(), parent, kWindowId);
 }
 
 void TableList::enableColumnWidthTracking(bool enable) {
@@ -120,7 +120,7 @@ void TableList::OnKeyDown(UINT key, UINT /*repeat*/, UINT /*flags*/) {
     case VK_UP:
     case VK_RIGHT:
     case VK_DOWN: {
-        const int drawn = static_cast<int>(m_drawState.drawnRowCount());
+        const int drawn = static_cast<int>(m_repaint.drawnRowCount());
         const int row = m_handler->OnKey(key, std::max(drawn - 1, 1));
         if (row >= 0) {
             scrollIntoView(row);

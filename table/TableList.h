@@ -11,7 +11,7 @@
 #include <XTToolkitPro.h>
 #include <afxwin.h>
 
-#include "DrawState.h"
+#include "RepaintState.h"
 #include "RowScroll.h"
 #include "RowStore.h"
 
@@ -43,7 +43,7 @@ public:
     explicit TableList(ITableView* view);
     ~TableList() override;
 
-    BOOL Create(CWnd* parent);
+    BOOL createIn(CWnd* parent);
     void setHandler(ITableHandler* handler) { m_handler = handler; }
     ITableHandler* handler() const { return m_handler; }
     void setContextMenu(std::shared_ptr<IContextMenuBase> contextMenu) { m_contextMenu = std::move(contextMenu); }
@@ -61,8 +61,8 @@ public:
     void updateAllHeights();
 
     // Painting.
-    void requestFullRedraw() { m_drawState.requestFullRedraw(); }
-    bool isDrawn(std::uint64_t data) const { return m_drawState.isDrawn(data); }
+    void requestFullRedraw() { m_repaint.requestFullRedraw(); }
+    bool isDrawn(std::uint64_t data) const { return m_repaint.isDrawn(data); }
     /// Marks a row, or all with 0, and lets the handler decide on the repaint.
     void markAndRefresh(std::uint64_t data);
     void repaintNow();
@@ -131,7 +131,7 @@ private:
     ITableView* m_view;
     ITableHandler* m_handler = nullptr;
     RowStore m_rows;
-    DrawState m_drawState;
+    RepaintState m_repaint;
     CBitmap m_backBuffer;
     CSize m_backBufferSize;
     std::shared_ptr<IContextMenuBase> m_contextMenu;

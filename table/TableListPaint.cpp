@@ -46,7 +46,7 @@ bool meetsView(const CRect& row, int viewHeight) {
 
 void TableList::markAndRefresh(std::uint64_t data) {
     if (m_handler != nullptr) {
-        m_drawState.mark(data, [this] { return m_handler->UseOptimalisation(); });
+        m_repaint.mark(data, [this] { return m_handler->UseOptimalisation(); });
         m_handler->RefreshView();
     }
 }
@@ -106,12 +106,12 @@ TableList::PaintResult TableList::paintOnce(CDC& target, bool showAnyway) {
     const CSize view = client.Size();
     int scrollPosition = effectiveScrollPos();
     FirstProcessor pinned;
-    const bool fullRedraw = m_drawState.takeFullRedraw();
+    const bool fullRedraw = m_repaint.takeFullRedraw();
     bool full = fullRedraw || m_handler == nullptr || !m_handler->UseOptimalisation();
     full = fitBackBuffer(target, view) || full;
     std::set<std::uint64_t> dirty;
     if (!full) {
-        dirty = m_drawState.takeInvalidRows();
+        dirty = m_repaint.takeInvalidRows();
     }
     DeletableDC memory(&target);
     const SelectedObject selectedBitmap(memory, m_backBuffer);
@@ -159,7 +159,7 @@ bool TableList::fitBackBuffer(CDC& target, CSize size) {
     if (m_backBuffer.GetSafeHandle() != nullptr && m_backBufferSize == size) {
         return false;
     }
-    m_drawState.clearInvalidRows();
+    m_repaint.clearInvalidRows();
     m_backBuffer.DeleteObject();
     m_backBuffer.CreateCompatibleBitmap(&target, std::max<int>(size.cx, 1), std::max<int>(size.cy, 1));
     m_backBufferSize = size;
@@ -202,7 +202,7 @@ bool TableList::drawRunning(CDC& dc, CSize view, int total, std::int64_t now, in
     if (m_autoscrollPos >= total) {
         m_autoscrollPos = std::fmod(m_autoscrollPos, total);
     }
-    m_drawState.forgetDrawnRows();
+    m_repaint.forgetDrawnRows();
     const int position = truncateToInt(m_autoscrollPos);
     const std::optional<RowSpan> first = m_rows.rowAt(position);
     if (!first) {
@@ -220,7 +220,7 @@ bool TableList::drawRunning(CDC& dc, CSize view, int total, std::int64_t now, in
         bottom += height;
         rowsWithoutProgress = height > 0 ? 0 : rowsWithoutProgress + 1;
         if (meetsView(rect, view.cy)) {
-            m_drawState.addDrawnRow(m_rows.data(row));
+            m_repaint.addDrawnRow(m_rows.data(row));
             heightChanged = drawRow(dc, row, rect) || heightChanged;
         }
         ++row;
@@ -232,7 +232,7 @@ bool TableList::drawRunning(CDC& dc, CSize view, int total, std::int64_t now, in
 bool TableList::drawNormal(CDC& dc, CSize view, int scrollPosition, const std::set<std::uint64_t>* dirty, int& bottom,
                            std::optional<SelectedRow>& selected) {
     const std::optional<RowSpan> first = m_rows.rowAt(scrollPosition);
-    m_drawState.forgetDrawnRows();
+    m_repaint.forgetDrawnRows();
     bottom = m_rows.totalHeight();
     if (!first) {
         return false;
@@ -253,7 +253,7 @@ bool TableList::drawNormal(CDC& dc, CSize view, int scrollPosition, const std::s
             continue;
         }
         const std::uint64_t data = m_rows.data(row);
-        m_drawState.addDrawnRow(data);
+        m_repaint.addDrawnRow(data);
         if (row == m_handler->GetSelectedItem()) {
             selected = SelectedRow{row, rect};
         } else if (dirty == nullptr || dirty->contains(data)) {

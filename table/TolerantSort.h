@@ -94,7 +94,7 @@ Iterator choosePivot(Iterator first, Iterator last, Before& before) {
 /// Splits the range around a pivot; both scans stop at elements equal to it, so that equal elements spread over both
 /// sides, and both look where the range ends. Gives where the pivot came to lie.
 template <typename Iterator, typename Before>
-Iterator partition(Iterator first, Iterator last, Before& before) {
+Iterator splitAroundPivot(Iterator first, Iterator last, Before& before) {
     std::iter_swap(first, choosePivot(first, last, before));
     const auto& pivot = *first;
     Iterator low = std::next(first);
@@ -127,7 +127,7 @@ void introSort(Iterator first, Iterator last, std::ptrdiff_t budget, Before& bef
             return;
         }
         budget = budget / 2 + budget / 4;
-        const Iterator pivot = partition(first, last, before);
+        const Iterator pivot = splitAroundPivot(first, last, before);
         if (pivot - first < last - pivot) {
             introSort(first, pivot, budget, before);
             first = std::next(pivot);

@@ -7,7 +7,7 @@
 /// Which rows are on the screen and which of them wait for a repaint. No windows.
 ///
 /// The lock is recursive because marking asks the host whether it wants single rows, and a host may mark from there.
-class DrawState {
+class RepaintState {
 public:
     /// The next paint redraws all rows.
     void requestFullRedraw();

@@ -1,44 +1,44 @@
-#include "DrawState.h"
+#include "RepaintState.h"
 
 #include <utility>
 
-void DrawState::requestFullRedraw() {
+void RepaintState::requestFullRedraw() {
     const std::lock_guard guard(m_lock);
     m_fullRedraw = true;
     m_invalidRows.clear();
 }
 
-bool DrawState::takeFullRedraw() {
+bool RepaintState::takeFullRedraw() {
     const std::lock_guard guard(m_lock);
     return std::exchange(m_fullRedraw, false);
 }
 
-std::set<std::uint64_t> DrawState::takeInvalidRows() {
+std::set<std::uint64_t> RepaintState::takeInvalidRows() {
     const std::lock_guard guard(m_lock);
     return std::exchange(m_invalidRows, {});
 }
 
-void DrawState::clearInvalidRows() {
+void RepaintState::clearInvalidRows() {
     const std::lock_guard guard(m_lock);
     m_invalidRows.clear();
 }
 
-void DrawState::forgetDrawnRows() {
+void RepaintState::forgetDrawnRows() {
     const std::lock_guard guard(m_lock);
     m_drawnRows.clear();
 }
 
-void DrawState::addDrawnRow(std::uint64_t data) {
+void RepaintState::addDrawnRow(std::uint64_t data) {
     const std::lock_guard guard(m_lock);
     m_drawnRows.insert(data);
 }
 
-bool DrawState::isDrawn(std::uint64_t data) const {
+bool RepaintState::isDrawn(std::uint64_t data) const {
     const std::lock_guard guard(m_lock);
     return m_drawnRows.contains(data);
 }
 
-std::size_t DrawState::drawnRowCount() const {
+std::size_t RepaintState::drawnRowCount() const {
     const std::lock_guard guard(m_lock);
     return m_drawnRows.size();
 }
