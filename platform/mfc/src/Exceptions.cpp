@@ -1,4 +1,4 @@
-#include "afx.h"
+#include "afxwin_app.h"
 
 #include <algorithm>
 #include <cwchar>
@@ -32,9 +32,9 @@ BOOL CException::GetErrorMessage(LPWSTR lpszError, UINT nMaxError, UINT* pnHelpC
 int CException::ReportError(UINT nType, UINT nMessageID) {
     wchar_t text[512];
     if (!GetErrorMessage(text, ARRAYSIZE(text))) {
-        LoadStringW(GetModuleHandleW(nullptr), nMessageID, text, ARRAYSIZE(text));
+        AfxLoadString(nMessageID, text, ARRAYSIZE(text));
     }
-    return MessageBoxW(GetActiveWindow(), text, nullptr, nType);
+    return AfxMessageBox(text, nType);
 }
 
 CSimpleException::CSimpleException(BOOL bAutoDelete, LPCWSTR lpszText) : CException(bAutoDelete), m_text(lpszText) {}

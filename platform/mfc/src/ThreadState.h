@@ -39,6 +39,7 @@ public:
     CWnd* creatingWindow = nullptr; ///< the object that the next window of this thread is attached to
     HHOOK creationHook = nullptr;
     MSG lastSentMessage{}; ///< what the innermost running window procedure was called with
+    MSG pumpedMessage{};   ///< what a loop of this thread took from the queue last
     int temporaryMapLocks = 0;
 
 private:

@@ -1,6 +1,0 @@
-#include "ModuleRecord.h"
-
-DllData& ModuleRecord::get() {
-    static DllData record;
-    return record;
-}
