@@ -33,8 +33,9 @@ public:
 
     virtual ~ITableView();
 
-    /// Posts the registered message of `TableCtrl::Sm_tableViewDataChangedMessage` to the control's window; the handler's
-    /// `OnTableViewDataChanged` follows on the window's thread, once for each call. May be called from any thread.
+    /// Posts the registered message of `TableCtrl::Sm_tableViewDataChangedMessage` to the control's window; the
+    /// handler's `OnTableViewDataChanged` follows on the window's thread, once for each call. May be called from any
+    /// thread.
     virtual void NotifyTableViewDataChange() = 0;
 
     /// Stores the height of the row with index `index` (an index despite its width). False if out of range.

@@ -1,0 +1,6 @@
+#include "ModuleRecord.h"
+
+DllData& ModuleRecord::get() {
+    static DllData record;
+    return record;
+}
