@@ -2,19 +2,17 @@
 
 namespace {
 
-template <class CharT>
-BOOL loadString(UINT id, std::basic_string<CharT>& text) {
-    // Strings lie in blocks of sixteen, which are numbered from 1.
-    HINSTANCE module = AfxFindResourceHandle(MAKEINTRESOURCE((id >> 4) + 1), RT_STRING);
-    return CStringPlatform<CharT>::load(module, id, text) > 0;
+// A string table resource holds 16 texts.
+HINSTANCE moduleOfText(UINT id) {
+    return AfxFindResourceHandle(MAKEINTRESOURCEW(id / 16 + 1), RT_STRING);
 }
 
 } // namespace
 
 BOOL OrtinLoadStringResource(UINT id, std::wstring& text) {
-    return loadString(id, text);
+    return CStringPlatform<wchar_t>::load(moduleOfText(id), id, text) > 0;
 }
 
 BOOL OrtinLoadStringResource(UINT id, std::string& text) {
-    return loadString(id, text);
+    return CStringPlatform<char>::load(moduleOfText(id), id, text) > 0;
 }
