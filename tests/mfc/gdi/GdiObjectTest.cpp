@@ -11,12 +11,17 @@ namespace {
 
 class GdiObjects : public testing::Test {
 protected:
-    GdiObjects() { CGdiObject::DeleteTempMap(); }
+    GdiObjects() {
+        // The system keeps the first screen context of a process.
+        ::ReleaseDC(nullptr, ::GetDC(nullptr));
+        CGdiObject::DeleteTempMap();
+        m_before = liveGdiHandles();
+    }
 
     int newHandles() const { return liveGdiHandles() - m_before; }
 
 private:
-    int m_before = liveGdiHandles();
+    int m_before;
 };
 
 TEST_F(GdiObjects, AreCountedByTheSharedHandleTable) {
