@@ -8,8 +8,6 @@
 class ORTIN_MFC_API CHeaderCtrl : public CWnd {
     DECLARE_DYNAMIC(CHeaderCtrl)
 public:
-    CHeaderCtrl();
-
     using CWnd::Create;
     using CWnd::CreateEx;
     /// dwStyle: HDS_ and window styles.
@@ -43,11 +41,9 @@ public:
     int GetBitmapMargin() const;
     int SetBitmapMargin(int nWidth);
 
-    /// Called for items with HDF_OWNERDRAW; a derived class that has such items overrides it.
+    /// Called for items with HDF_OWNERDRAW; does nothing unless a derived class overrides it.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
-
-    DECLARE_MESSAGE_MAP()
 };

@@ -2,11 +2,6 @@
 
 IMPLEMENT_DYNAMIC(CHeaderCtrl, CWnd)
 
-BEGIN_MESSAGE_MAP(CHeaderCtrl, CWnd)
-END_MESSAGE_MAP()
-
-CHeaderCtrl::CHeaderCtrl() = default;
-
 BOOL CHeaderCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
     return CreateEx(0, dwStyle, rect, pParentWnd, nID);
 }
@@ -80,10 +75,7 @@ int CHeaderCtrl::SetBitmapMargin(int nWidth) {
     return static_cast<int>(SendMessage(HDM_SETBITMAPMARGIN, static_cast<WPARAM>(nWidth)));
 }
 
-void CHeaderCtrl::DrawItem(LPDRAWITEMSTRUCT) {
-    // Without an override nobody draws such items: a mistake in the derived class.
-    ASSERT(false);
-}
+void CHeaderCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CHeaderCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     if (message != WM_DRAWITEM) {
