@@ -1,9 +1,10 @@
-#include <gtest/gtest.h>
+#include "test_windows.h"
 
-#include <afxwin.h>
+#include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
+    TestApplication application;
     AfxWinInit(GetModuleHandleW(nullptr), nullptr, GetCommandLineW(), SW_SHOWNOACTIVATE);
     return RUN_ALL_TESTS();
 }
