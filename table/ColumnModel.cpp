@@ -161,7 +161,7 @@ bool ColumnModel::UpdateColumnWidths(int id, int width, int bodyWindowWidth, Hea
         return false;
     }
 
-    int pixelSum = width;
+    double pixelSum = width;
     double realSum = width;
     for (int after = position + 1; after < static_cast<int>(m_order.size()); ++after) {
         const int afterId = m_order[static_cast<std::size_t>(after)];
@@ -184,7 +184,7 @@ bool ColumnModel::UpdateColumnWidths(int id, int width, int bodyWindowWidth, Hea
     // drift.
     if (const std::optional<int> lastWidth = header.itemWidth(last)) {
         header.setItemWidth(last,
-                            *lastWidth + truncateToInt(std::ceil(std::fabs(realSum - pixelSum) + kLastItemMargin)));
+                            truncateToInt(*lastWidth + std::ceil(std::fabs(realSum - pixelSum) + kLastItemMargin)));
     }
     return true;
 }
@@ -216,13 +216,13 @@ bool ColumnModel::setLockedWidth(int id, int width, HeaderItems& header) {
 }
 
 int ColumnModel::visibleHeaderWidth(const HeaderItems& header) const {
-    int total = 0;
+    std::int64_t total = 0;
     for (int id = 0; id < GetColumnCount(); ++id) {
         if (GetColumnVisibility(id)) {
             total += header.itemWidth(id).value_or(0);
         }
     }
-    return total;
+    return saturateToInt(total);
 }
 
 bool ColumnModel::fitLastColumn(int bodyClientWidth, int headerClientWidth, HeaderItems& header) {
@@ -232,11 +232,11 @@ bool ColumnModel::fitLastColumn(int bodyClientWidth, int headerClientWidth, Head
     const int last = GetLastVisibleColumnPosition();
     const double rest = GetWidthAfterColumn(-1) - GetColumnRealWidth(last);
     const double fit = bodyClientWidth - rest;
-    if (m_minColumnWidth > fit) {
-        return false;
+    if (!(fit >= m_minColumnWidth)) {
+        return false; // too narrow, or no number because a column is infinitely wide
     }
     m_columns.at(static_cast<std::size_t>(last)).width = fit;
-    header.setItemWidth(last, headerClientWidth - truncateToInt(rest) + static_cast<int>(kLastItemMargin));
+    header.setItemWidth(last, truncateToInt(headerClientWidth - std::trunc(rest) + kLastItemMargin));
     return true;
 }
 
@@ -247,7 +247,7 @@ void ColumnModel::UpdateMinWidth(int bodyClientWidth, int bodyWindowWidth) {
     }
     const double sum = GetWidthAfterColumn(-1);
     const double lastWidth = GetVisibleColumnCount() == 0 ? 0.0 : GetColumnRealWidth(GetLastVisibleColumnPosition());
-    m_minWidth = truncateToInt(sum - lastWidth + m_minColumnWidth) - bodyClientWidth + bodyWindowWidth;
+    m_minWidth = truncateToInt(std::trunc(sum - lastWidth + m_minColumnWidth) - bodyClientWidth + bodyWindowWidth);
 }
 
 int ColumnModel::minWidth() const {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 /// Truncates toward zero. A value outside the range of int saturates and NaN gives 0, where a bare conversion would be
@@ -16,4 +18,10 @@ inline int truncateToInt(double value) {
         return std::numeric_limits<int>::min();
     }
     return static_cast<int>(value);
+}
+
+/// The nearest int: a sum of what a host gave may leave the range.
+inline int saturateToInt(std::int64_t value) {
+    return static_cast<int>(
+        std::clamp<std::int64_t>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }

@@ -1,6 +1,9 @@
 #include "RowScroll.h"
 
 #include <algorithm>
+#include <cstdint>
+
+#include "Rounding.h"
 
 namespace RowScroll {
 
@@ -14,16 +17,16 @@ enum Command : unsigned int { LineUp, LineDown, PageUp, PageDown, ThumbPosition,
 } // namespace
 
 std::optional<int> intoView(const RowSpan& span, int viewTop, int viewHeight, Margins margins) {
-    const int viewBottom = viewTop + viewHeight;
-    const int upper = margins.top - 1 + span.top;
-    const int lower = span.bottom - margins.bottom;
+    const std::int64_t viewBottom = std::int64_t{viewTop} + viewHeight;
+    const std::int64_t upper = std::int64_t{margins.top} - 1 + span.top;
+    const std::int64_t lower = std::int64_t{span.bottom} - margins.bottom;
     if (viewTop > upper) {
-        return upper;
+        return saturateToInt(upper);
     }
     if (viewBottom >= lower) {
         return std::nullopt;
     }
-    return viewTop - viewBottom + 1 + lower;
+    return saturateToInt(viewTop - viewBottom + 1 + lower);
 }
 
 std::optional<int> afterCommand(unsigned int command, const BarState& bar) {

@@ -1,14 +1,10 @@
 #include "RowStore.h"
 
 #include <algorithm>
-#include <limits>
+
+#include "Rounding.h"
 
 namespace {
-
-int saturated(std::int64_t value) {
-    return static_cast<int>(
-        std::clamp<std::int64_t>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
-}
 
 /// How often each of a set of words is wanted. Most words that are looked up are not wanted, so a bit a word, which
 /// stays in the fastest cache, answers before the table is touched.
@@ -76,7 +72,7 @@ private:
 } // namespace
 
 int RowStore::totalHeight() const {
-    return saturated(m_totalHeight);
+    return saturateToInt(m_totalHeight);
 }
 
 std::optional<int> RowStore::find(Data data) const {
@@ -92,7 +88,7 @@ std::optional<RowSpan> RowStore::rowAt(int y) const {
     for (int row = 0; row < count(); ++row) {
         const std::int64_t bottom = top + m_rows[static_cast<std::size_t>(row)].second;
         if (top <= y && y < bottom) {
-            return RowSpan{row, saturated(top), saturated(bottom)};
+            return RowSpan{row, saturateToInt(top), saturateToInt(bottom)};
         }
         top = bottom;
     }
@@ -108,7 +104,7 @@ std::optional<RowSpan> RowStore::spanOf(int row) const {
     for (int before = 0; before < spanned; ++before) {
         top += m_rows[static_cast<std::size_t>(before)].second;
     }
-    return RowSpan{spanned, saturated(top), saturated(top + m_rows[static_cast<std::size_t>(spanned)].second)};
+    return RowSpan{spanned, saturateToInt(top), saturateToInt(top + m_rows[static_cast<std::size_t>(spanned)].second)};
 }
 
 void RowStore::setData(int row, Data data) {
