@@ -13,7 +13,7 @@ build windows
 wine_folder=$root/build/windows/wine
 hold_virtual_display "$wine_folder"
 for dpi in 96 144; do
-    (use_wine_environment "$wine_folder/$dpi" && ensure_wine_prefix "$wine_folder/$dpi" "$dpi")
+    (use_wine_environment "$wine_folder/$dpi" && wake_wine_prefix "$wine_folder/$dpi" "$dpi")
 done
 
 # One summary over both builds.

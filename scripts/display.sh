@@ -54,8 +54,8 @@ start_virtual_display() {
     done
 }
 
-# Runs Xvfb for as long as anybody holds the folder's display, and a little longer, because Wine's own desktop process
-# lives a few seconds past the last program and the next program is to find it on the display it knows.
+# Runs Xvfb for as long as anybody holds the folder's display, and ten seconds longer: Wine's session outlives its last
+# program by five, and the next program is to find it on the display it knows.
 keep_virtual_display() {
     local folder=$1 server fifo
     exec {users}>>"$folder/display.users"
@@ -71,7 +71,7 @@ keep_virtual_display() {
     while kill -0 "$server" 2>/dev/null; do
         flock "$users"
         flock --unlock "$users"
-        sleep 5
+        sleep 10
         if flock --nonblock "$users"; then
             rm -f "$folder/display.number"
             kill "$server" 2>/dev/null

@@ -45,12 +45,13 @@ mkdir -p "$folder"
 usable_display || hold_virtual_display "$folder"
 prefix=$folder/$dpi
 managed=N
-if [ "$desktop" = yes ] && window_manager_runs; then
+if [ "$desktop" = yes ]; then
+    # A session of its own: one that has just ended on the virtual display still has Wine's desktop there.
     prefix=$folder/$dpi-desktop
-    managed=Y
+    ! window_manager_runs || managed=Y
 fi
 use_wine_environment "$prefix"
-ensure_wine_prefix "$prefix" "$dpi" "$managed"
+wake_wine_prefix "$prefix" "$dpi" "$managed"
 
 status=0
 without_display_lock "$wine_program" "$program" "$@" || status=$?
