@@ -49,10 +49,12 @@ void ThreadState::deleteTemporaries() {
     if (temporaryMapLocks > 0) {
         return;
     }
-    // By index: a dying object may ask for a map that this thread did not have yet.
-    for (std::size_t slot = 0; slot < m_maps.size(); ++slot) {
+    // Not by iterator: a dying object may ask for a map that this thread did not have yet.
+    std::size_t slot = 0;
+    while (slot < m_maps.size()) {
         if (m_maps[slot]) {
             m_maps[slot]->deleteTemporaries();
         }
+        ++slot;
     }
 }
