@@ -30,13 +30,15 @@ struct QuoteColumnInfo {
     /// At 96 pixels to the inch.
     double defaultWidth;
     bool alignsRight;
+    /// The others hold figures.
+    bool holdsWords = false;
 };
 
 /// All columns in their first order, indexed by `QuoteColumn`.
 inline constexpr std::array QuoteColumns{
-    QuoteColumnInfo{QuoteColumn::Symbol, "symbol", L"Symbol", 76.0, false},
-    QuoteColumnInfo{QuoteColumn::Name, "name", L"Nazwa", 220.0, false},
-    QuoteColumnInfo{QuoteColumn::Sector, "sector", L"Sektor", 190.0, false},
+    QuoteColumnInfo{QuoteColumn::Symbol, "symbol", L"Symbol", 76.0, false, true},
+    QuoteColumnInfo{QuoteColumn::Name, "name", L"Nazwa", 220.0, false, true},
+    QuoteColumnInfo{QuoteColumn::Sector, "sector", L"Sektor", 190.0, false, true},
     QuoteColumnInfo{QuoteColumn::Price, "price", L"Kurs", 92.0, true},
     QuoteColumnInfo{QuoteColumn::PriceEarnings, "price-earnings", L"C/Z", 78.0, true},
     QuoteColumnInfo{QuoteColumn::DividendYield, "dividend-yield", L"Dywidenda", 92.0, true},

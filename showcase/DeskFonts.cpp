@@ -1,0 +1,41 @@
+#include "DeskFonts.h"
+
+#include <XTToolkitPro.h>
+
+#include "ScopedSelection.h"
+
+namespace Desk {
+
+namespace {
+
+constexpr int TextHeight = 13;
+constexpr int HeaderStrutHeight = 20;
+
+void create(CFont& font, int height, LONG weight) {
+    LOGFONTW description{};
+    description.lfHeight = -scaled(height);
+    description.lfWeight = weight;
+    description.lfCharSet = DEFAULT_CHARSET;
+    description.lfQuality = ANTIALIASED_QUALITY;
+    wcscpy(description.lfFaceName, L"Tahoma");
+    font.CreateFontIndirect(&description);
+}
+
+} // namespace
+
+DeskFonts::DeskFonts() {
+    create(m_text, TextHeight, FW_NORMAL);
+    create(m_bold, TextHeight, FW_BOLD);
+    create(m_headerStrut, HeaderStrutHeight, FW_NORMAL);
+    CClientDC screen(nullptr);
+    const ScopedSelection selected(screen, m_text);
+    TEXTMETRICW metrics{};
+    screen.GetTextMetrics(&metrics);
+    m_lineHeight = metrics.tmHeight;
+}
+
+int scaled(int length) {
+    return XTPDpiHelper().ScaleX(length, 96);
+}
+
+} // namespace Desk

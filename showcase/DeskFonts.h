@@ -1,0 +1,29 @@
+#pragma once
+
+#include <afxwin.h>
+
+namespace Desk {
+
+/// The desk's typefaces at the screen's scale, and sizes that come from them.
+class DeskFonts {
+public:
+    DeskFonts();
+
+    CFont& text() { return m_text; }
+    CFont& bold() { return m_bold; }
+    /// Never drawn with: a header control is as high as its font asks for.
+    CFont& headerStrut() { return m_headerStrut; }
+    /// The height of a line of `text()`, in pixels.
+    int lineHeight() const { return m_lineHeight; }
+
+private:
+    CFont m_text;
+    CFont m_bold;
+    CFont m_headerStrut;
+    int m_lineHeight = 0;
+};
+
+/// A length given for 96 pixels to the inch, in pixels of the screen.
+int scaled(int length);
+
+} // namespace Desk

@@ -1,0 +1,153 @@
+#include "DeskScrollBar.h"
+
+#include <XTToolkitPro.h>
+
+#include <algorithm>
+
+#include "DeskColors.h"
+#include "DeskFonts.h"
+
+namespace Desk {
+
+namespace {
+
+constexpr int BarWidth = 14;
+constexpr int LeastThumb = 28;
+constexpr int ThumbInset = 3;
+constexpr UINT_PTR PagingTimer = 1;
+constexpr UINT PagingDelay = 320;
+constexpr UINT PagingPause = 60;
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(DeskScrollBar, CWnd)
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_SIZE()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_MOUSEMOVE()
+    ON_WM_MOUSELEAVE()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_TIMER()
+END_MESSAGE_MAP()
+
+int DeskScrollBar::width() {
+    return scaled(BarWidth);
+}
+
+BOOL DeskScrollBar::createIn(CWnd* parent, int id) {
+    return CWnd::Create(AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW)), L"", WS_CHILD | WS_VISIBLE,
+                        CRect(0, 0, width(), width()), parent, static_cast<UINT>(id));
+}
+
+void DeskScrollBar::setState(const ScrollState& state) {
+    if (m_state == state)
+        return;
+    m_state = state;
+    Invalidate(FALSE);
+}
+
+int DeskScrollBar::trackLength() const {
+    CRect client;
+    GetClientRect(&client);
+    return client.Height();
+}
+
+ThumbSpan DeskScrollBar::thumb() const {
+    return thumbSpan(m_state, trackLength(), scaled(LeastThumb));
+}
+
+void DeskScrollBar::OnPaint() {
+    CPaintDC paint(this);
+    CXTPBufferDC dc(paint);
+    CRect client;
+    GetClientRect(&client);
+    dc.FillSolidRect(&client, Colors::scrollTrack());
+    const CRect edge(client.left, client.top, client.left + 1, client.bottom);
+    dc.FillSolidRect(&edge, Colors::line());
+    const ThumbSpan span = thumb();
+    CRect rect(client.left + 1, span.begin, client.right, span.end);
+    rect.DeflateRect(scaled(ThumbInset), span.end > span.begin ? scaled(1) : 0);
+    dc.FillSolidRect(&rect, m_hot || m_drag ? Colors::scrollThumbHot() : Colors::scrollThumb());
+}
+
+BOOL DeskScrollBar::OnEraseBkgnd(CDC*) {
+    return TRUE;
+}
+
+void DeskScrollBar::OnSize(UINT type, int cx, int cy) {
+    CWnd::OnSize(type, cx, cy);
+    Invalidate(FALSE);
+}
+
+void DeskScrollBar::OnLButtonDown(UINT, CPoint point) {
+    const ThumbSpan span = thumb();
+    if (span.begin == span.end)
+        return;
+    SetCapture();
+    if (point.y >= span.begin && point.y < span.end) {
+        m_drag = ThumbDrag{point.y - span.begin};
+        Invalidate(FALSE);
+        return;
+    }
+    m_paging = Paging{point.y};
+    SetTimer(PagingTimer, PagingDelay);
+    turnPage();
+}
+
+void DeskScrollBar::OnLButtonUp(UINT, CPoint) {
+    if (GetCapture() == this)
+        ::ReleaseCapture();
+}
+
+void DeskScrollBar::OnMouseMove(UINT, CPoint point) {
+    if (m_drag && onScrollTo)
+        onScrollTo(positionForThumb(m_state, trackLength(), scaled(LeastThumb), point.y - m_drag->grip));
+    if (m_paging)
+        m_paging->target = point.y;
+    if (!m_hot) {
+        TRACKMOUSEEVENT track{sizeof(track), TME_LEAVE, m_hWnd, 0};
+        ::TrackMouseEvent(&track);
+    }
+    const ThumbSpan span = thumb();
+    setHot(point.y >= span.begin && point.y < span.end);
+}
+
+void DeskScrollBar::OnMouseLeave() {
+    setHot(false);
+}
+
+void DeskScrollBar::OnCaptureChanged(CWnd*) {
+    endGestures();
+}
+
+void DeskScrollBar::OnTimer(UINT_PTR) {
+    turnPage();
+    if (m_paging)
+        SetTimer(PagingTimer, PagingPause);
+}
+
+void DeskScrollBar::turnPage() {
+    const ThumbSpan span = thumb();
+    if (!m_paging || !onScrollTo || (m_paging->target >= span.begin && m_paging->target < span.end))
+        return;
+    const int step = m_paging->target < span.begin ? -m_state.page : m_state.page;
+    onScrollTo(std::clamp(m_state.position + step, 0, m_state.greatestPosition()));
+}
+
+void DeskScrollBar::endGestures() {
+    KillTimer(PagingTimer);
+    m_drag.reset();
+    m_paging.reset();
+    Invalidate(FALSE);
+}
+
+void DeskScrollBar::setHot(bool hot) {
+    if (m_hot == hot)
+        return;
+    m_hot = hot;
+    Invalidate(FALSE);
+}
+
+} // namespace Desk

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include <afxwin.h>
+
+#include "core/ScrollThumb.h"
+
+namespace Desk {
+
+/// A vertical scroll bar in the colours of the theme. It keeps no position of its own: it shows the state that it is
+/// given and tells what the user wants.
+class DeskScrollBar : public CWnd {
+public:
+    static int width();
+
+    BOOL createIn(CWnd* parent, int id);
+    void setState(const ScrollState& state);
+
+    std::function<void(int position)> onScrollTo;
+
+protected:
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnMouseLeave();
+    afx_msg void OnCaptureChanged(CWnd* window);
+    afx_msg void OnTimer(UINT_PTR timer);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    /// A press on the thumb: the distance from its start to the mouse.
+    struct ThumbDrag {
+        int grip;
+    };
+    /// A press beside the thumb: pages toward the mouse until the thumb is under it.
+    struct Paging {
+        int target;
+    };
+
+    int trackLength() const;
+    ThumbSpan thumb() const;
+    void turnPage();
+    void endGestures();
+    void setHot(bool hot);
+
+    ScrollState m_state;
+    std::optional<ThumbDrag> m_drag;
+    std::optional<Paging> m_paging;
+    bool m_hot = false;
+};
+
+} // namespace Desk

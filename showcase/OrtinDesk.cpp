@@ -1,0 +1,196 @@
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <afxwin.h>
+// GDI+ names COM's types.
+#include <objidl.h>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace Gdiplus {
+using std::max;
+using std::min;
+} // namespace Gdiplus
+#include <gdiplus.h>
+
+#include <OrtinFoundation/StringTools.h>
+#include <shellapi.h>
+
+#include "DeskSettings.h"
+#include "DeskWindow.h"
+#include "Scenes.h"
+#include "StandardStreams.h"
+#include "core/CommandLine.h"
+#include "core/SampleData.h"
+
+namespace Desk {
+
+namespace {
+
+std::vector<std::wstring> commandLineArguments() {
+    int count = 0;
+    const std::unique_ptr<LPWSTR, decltype(&::LocalFree)> words(::CommandLineToArgvW(::GetCommandLineW(), &count),
+                                                                &::LocalFree);
+    return words ? std::vector<std::wstring>(words.get() + std::min(count, 1), words.get() + count)
+                 : std::vector<std::wstring>();
+}
+
+/// The library leaves starting GDI+ to its host.
+class GdiplusSession {
+public:
+    GdiplusSession() {
+        const Gdiplus::GdiplusStartupInput input;
+        m_started = Gdiplus::GdiplusStartup(&m_token, &input, nullptr) == Gdiplus::Ok;
+    }
+    ~GdiplusSession() {
+        if (m_started)
+            Gdiplus::GdiplusShutdown(m_token);
+    }
+    GdiplusSession(const GdiplusSession&) = delete;
+    GdiplusSession& operator=(const GdiplusSession&) = delete;
+
+private:
+    ULONG_PTR m_token = 0;
+    bool m_started = false;
+};
+
+/// What the desk starts with, once all that the user gave has been looked at. Throws a `Refusal`.
+struct Start {
+    std::vector<Instrument> instruments;
+    DeskSettings settings;
+    std::wstring settingsFile;
+};
+
+std::vector<Instrument> loadInstruments(const DeskOptions& options) {
+    if (!options.instruments)
+        return sampleInstruments();
+    try {
+        return readInstruments(std::filesystem::path(*options.instruments));
+    } catch (const InputError& error) {
+        throw Refusal{OrtinTools::String::Utf8ToWide(error.what()), BadInputExitCode};
+    }
+}
+
+Start prepare(const DeskOptions& options) {
+    Start start;
+    start.instruments = loadInstruments(options);
+    if (options.settings) {
+        start.settingsFile = *options.settings;
+        const ParameterStatus status = loadSettings(start.settingsFile, start.settings);
+        if (!status.IsSuccess())
+            throw Refusal{status.GetMessageText(), BadInputExitCode};
+    } else if (!options.shots) {
+        // A file of our own that has become unreadable must not keep the user out.
+        start.settingsFile = defaultSettingsFile();
+        loadSettings(start.settingsFile, start.settings);
+    }
+    if (options.theme)
+        start.settings.theme = *options.theme;
+    if (options.shots) {
+        // Pictures look the same wherever they are made, and leave nothing else behind.
+        start.settingsFile.clear();
+        std::error_code error;
+        std::filesystem::create_directories(*options.shots, error);
+        if (!std::filesystem::is_directory(*options.shots, error))
+            throw Refusal{*options.shots + L": folderu nie można utworzyć; podaj inny", BadInputExitCode};
+    }
+    return start;
+}
+
+} // namespace
+
+class DeskApp : public CWinApp {
+public:
+    DeskApp() : CWinApp(L"OrtinDesk") {}
+
+    BOOL InitInstance() override;
+    int ExitInstance() override;
+
+private:
+    bool openDesk(Start start, const DeskOptions& options);
+    bool writeShots(const Start& start, const DeskOptions& options);
+    void refuse(const Refusal& refusal);
+
+    std::optional<GdiplusSession> m_gdiplus;
+    std::unique_ptr<DeskWindow> m_desk;
+    int m_exitCode = 0;
+};
+
+BOOL DeskApp::InitInstance() {
+    CWinApp::InitInstance();
+    const auto parsed = parseCommandLine(commandLineArguments());
+    if (const auto* refusal = std::get_if<Refusal>(&parsed)) {
+        refuse(*refusal);
+        return FALSE;
+    }
+    const auto& options = std::get<DeskOptions>(parsed);
+    if (options.help) {
+        printLine(helpText());
+        return FALSE;
+    }
+    m_gdiplus.emplace();
+    try {
+        Start start = prepare(options);
+        if (!options.shots)
+            return openDesk(std::move(start), options);
+        if (!writeShots(start, options))
+            m_exitCode = 1;
+        return FALSE;
+    } catch (const Refusal& refusal) {
+        refuse(refusal);
+        return FALSE;
+    }
+}
+
+bool DeskApp::openDesk(Start start, const DeskOptions& options) {
+    m_desk = std::make_unique<DeskWindow>(std::move(start.instruments), std::move(start.settings),
+                                          std::move(start.settingsFile));
+    if (!m_desk->open()) {
+        refuse({L"nie można utworzyć okna", 1});
+        return false;
+    }
+    m_pMainWnd = m_desk.get();
+    m_desk->ShowWindow(m_nCmdShow);
+    m_desk->UpdateWindow();
+    m_desk->startTicks(options.ticksPerSecond);
+    return true;
+}
+
+bool DeskApp::writeShots(const Start& start, const DeskOptions& options) {
+    const auto makeDesk = [&start]() -> std::unique_ptr<DeskWindow> {
+        auto desk = std::make_unique<DeskWindow>(start.instruments, start.settings, std::wstring());
+        if (!desk->open()) {
+            printError(L"nie można utworzyć okna");
+            return nullptr;
+        }
+        desk->ShowWindow(SW_SHOWNOACTIVATE);
+        return desk;
+    };
+    return Scenes(makeDesk, *options.shots).write(options.scene);
+}
+
+void DeskApp::refuse(const Refusal& refusal) {
+    printError(refusal.text);
+    m_exitCode = refusal.exitCode;
+}
+
+int DeskApp::ExitInstance() {
+    const int code = CWinApp::ExitInstance();
+    m_desk.reset();
+    m_gdiplus.reset();
+    return m_exitCode != 0 ? m_exitCode : code;
+}
+
+} // namespace Desk
+
+namespace {
+
+Desk::DeskApp theDesk;
+
+} // namespace
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE previous, LPWSTR commandLine, int show) {
+    return AfxWinMain(instance, previous, commandLine, show);
+}

@@ -1,0 +1,336 @@
+#include "QuotesHandler.h"
+
+#include <OrtinControls/ITableView.h>
+#include <OrtinFoundation/Keyboard.h>
+#include <XTToolkitPro.h>
+
+#include <algorithm>
+
+#include "DeskColors.h"
+
+namespace Desk {
+
+namespace {
+
+constexpr int SortArrowRoom = 16;
+
+std::optional<RowStep> stepOf(unsigned int key) {
+    switch (key) {
+    case VK_UP:
+        return RowStep::Up;
+    case VK_DOWN:
+        return RowStep::Down;
+    case VK_PRIOR:
+        return RowStep::PageUp;
+    case VK_NEXT:
+        return RowStep::PageDown;
+    case VK_HOME:
+        return RowStep::First;
+    case VK_END:
+        return RowStep::Last;
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+QuotesHandler::QuotesHandler(QuoteBook& book, DeskFonts& fonts, QuotesEvents& events)
+    : m_book(book),
+      m_fonts(fonts),
+      m_events(events),
+      m_widths(book, fonts.text()),
+      m_painter(book, m_widths, fonts) {}
+
+// Columns and rows
+
+void QuotesHandler::setUpColumns(const ColumnLayout& layout) {
+    std::vector<std::pair<std::wstring, double>> columns;
+    for (const ArrangedColumn& arranged : layout) {
+        const auto info = std::find_if(QuoteColumns.begin(), QuoteColumns.end(),
+                                       [&](const QuoteColumnInfo& known) { return known.key == arranged.key; });
+        m_columns.push_back(info->column);
+        columns.emplace_back(info->title, arranged.width * XTPDpiHelper().GetDpiX() / 96.0);
+    }
+    m_view->SetColumns(columns);
+    m_view->UpdateColumns();
+    for (std::size_t id = 0; id < layout.size(); ++id)
+        if (!layout[id].visible)
+            m_view->ShowColumn(static_cast<int>(id), false);
+}
+
+void QuotesHandler::setUpRows() {
+    std::vector<std::pair<unsigned __int64, int>> rows;
+    rows.reserve(m_book.size());
+    for (std::size_t instrument = 0; instrument < m_book.size(); ++instrument)
+        rows.emplace_back(dataOf(instrument), m_painter.rowHeight());
+    m_view->BeginUpdate();
+    m_view->InsertItems(rows, 0, 0);
+    m_view->FinishUpdate();
+    noteRows();
+    if (!rows.empty())
+        m_view->SelectItem(0, true);
+}
+
+ColumnLayout QuotesHandler::columnLayout() const {
+    ColumnLayout layout;
+    for (int position = 0; position < m_view->GetColumnCount(); ++position) {
+        const int id = m_view->GetColumnId(position);
+        layout.push_back({std::string(infoOf(columnOf(id)).key),
+                          m_view->GetColumnRealWidth(id) * 96.0 / XTPDpiHelper().GetDpiX(),
+                          m_view->GetColumnVisibility(id)});
+    }
+    return layout;
+}
+
+std::vector<QuoteColumn> QuotesHandler::visibleColumns() const {
+    std::vector<QuoteColumn> columns;
+    for (int position = 0; position < m_view->GetColumnCount(); ++position)
+        if (const int id = m_view->GetColumnId(position); m_view->GetColumnVisibility(id))
+            columns.push_back(columnOf(id));
+    return columns;
+}
+
+std::size_t QuotesHandler::instrumentAt(int row) const {
+    return static_cast<std::size_t>(m_view->GetItemData(row) - 1);
+}
+
+void QuotesHandler::noteRows() {
+    m_rows.assign(m_book.size(), -1);
+    for (int row = 0; row < m_view->GetItemCount(); ++row)
+        m_rows[instrumentAt(row)] = row;
+}
+
+// Drawing
+
+void QuotesHandler::PrepareDraw() {
+    CRect client;
+    m_list->GetClientRect(&client);
+    m_cells.clear();
+    int left = 0;
+    for (int position = 0; position < m_view->GetColumnCount(); ++position) {
+        const int id = m_view->GetColumnId(position);
+        if (!m_view->GetColumnVisibility(id))
+            continue;
+        const int right = left + m_view->GetColumnWidth(id);
+        m_cells.push_back({columnOf(id), left, right});
+        left = right;
+    }
+    // The widths are laid out for the whole window, whose right edge is under the scroll bar; and pixels lost to
+    // rounding are missing at the end. Either way the last column ends with the view.
+    if (!m_cells.empty() && (m_cells.back().right > client.right || !m_view->AreColumnsLocked()))
+        m_cells.back().right = std::max(m_cells.back().left, static_cast<int>(client.right));
+}
+
+int QuotesHandler::DrawItem(CDC& dc, int row, const CRect& rect) {
+    const std::size_t instrument = instrumentAt(row);
+    RowLook look;
+    look.isOther = row % 2 == 1;
+    look.isSelected = m_selection.contains(row);
+    look.flash = m_flashes.levelOf(instrument);
+    look.phrase = m_find.isActive() ? &m_find.phrase() : nullptr;
+    m_painter.drawRow(dc, rect, instrument, m_cells, look);
+    if (row == m_selection.caret())
+        drawCaret(dc, rect);
+    return m_painter.rowHeight();
+}
+
+void QuotesHandler::drawCaret(CDC& dc, const CRect& rowRect) {
+    const QuoteColumn column = columnOf(m_selectedColumnId);
+    const auto cell =
+        std::find_if(m_cells.begin(), m_cells.end(), [column](const CellSpan& span) { return span.column == column; });
+    if (cell == m_cells.end())
+        return;
+    const bool hasFocus = CWnd::GetFocus() == m_list;
+    DrawCursor(dc, CRect(cell->left, rowRect.top, cell->right, rowRect.bottom), 1,
+               hasFocus ? Colors::accent() : Colors::mutedText());
+}
+
+void QuotesHandler::OnDrawFinished(CDC&) {
+    m_events.onViewPainted();
+}
+
+int QuotesHandler::ComputeItemHeight(int) {
+    return m_painter.rowHeight();
+}
+
+void QuotesHandler::RefreshView() {
+    if (!m_list || !m_list->GetSafeHwnd())
+        return;
+    if (m_markedInstrument && !m_autoscroll) {
+        const CRect strip = rowRectangle(m_rows[*m_markedInstrument]);
+        m_list->InvalidateRect(&strip, FALSE);
+    } else if (m_viewIsStale || m_markedInstrument) {
+        m_viewIsStale = false;
+        m_list->Invalidate(FALSE);
+    }
+}
+
+CRect QuotesHandler::rowRectangle(int row) const {
+    CRect rect;
+    m_list->GetClientRect(&rect);
+    rect.top = row * m_painter.rowHeight() - m_list->GetScrollPos(SB_VERT);
+    rect.bottom = rect.top + m_painter.rowHeight();
+    return rect;
+}
+
+void QuotesHandler::repaintAll() {
+    m_viewIsStale = true;
+    m_view->InvalidateView(0);
+}
+
+void QuotesHandler::repaintInstrument(std::size_t instrument) {
+    m_markedInstrument = instrument;
+    m_view->InvalidateView(dataOf(instrument));
+    m_markedInstrument.reset();
+}
+
+int QuotesHandler::GetOptimalColumnWidth(int id) {
+    const QuoteColumn column = columnOf(id);
+    int widest = m_widths.of(infoOf(column).title) + scaled(SortArrowRoom);
+    for (std::size_t instrument = 0; instrument < m_book.size(); ++instrument)
+        widest = std::max(widest, m_widths.of(instrument, column));
+    return m_painter.cellWidthFor(widest);
+}
+
+__int64 QuotesHandler::GetToolTip(CRect& rect, CString& text) {
+    if (m_autoscroll || m_view->GetItemCount() == 0)
+        return -1;
+    const int row = (rect.top + m_list->GetScrollPos(SB_VERT)) / m_painter.rowHeight();
+    const std::optional<std::size_t> cell = cellAt(rect.left);
+    if (row < 0 || row >= m_view->GetItemCount() || !cell)
+        return -1;
+    const CellSpan& span = m_cells[*cell];
+    const std::size_t instrument = instrumentAt(row);
+    // The range is drawn as a bar: its figures show only here.
+    if (span.column != QuoteColumn::Range52Weeks && !m_painter.isCutOff(instrument, span))
+        return -1;
+    text = m_book.text(instrument, span.column).c_str();
+    rect = rowRectangle(row);
+    rect.left = span.left;
+    rect.right = span.right;
+    return static_cast<__int64>(row) * static_cast<__int64>(QuoteColumnCount) + static_cast<__int64>(span.column);
+}
+
+std::optional<std::size_t> QuotesHandler::cellAt(int x) const {
+    const auto cell = std::find_if(m_cells.begin(), m_cells.end(),
+                                   [x](const CellSpan& span) { return x >= span.left && x < span.right; });
+    if (cell == m_cells.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(cell - m_cells.begin());
+}
+
+void QuotesHandler::setAutoscroll(bool on) {
+    m_autoscroll = on;
+    repaintAll();
+}
+
+// Selection and keys
+
+int QuotesHandler::OnKey(unsigned int key, int pageRows) {
+    if (key == VK_LEFT || key == VK_RIGHT) {
+        stepColumn(key == VK_LEFT ? -1 : 1);
+        return m_selection.caret();
+    }
+    const std::optional<RowStep> step = stepOf(key);
+    if (!step)
+        return -1;
+    const int row = rowAfterStep(*step, m_selection.caret(), pageRows, m_view->GetItemCount());
+    if (OrtinTools::Keyboard::IsShiftPressed())
+        m_selection.extendTo(row);
+    else
+        m_selection.select(row);
+    selectionChanged();
+    return row;
+}
+
+int QuotesHandler::OnKey(unsigned int) {
+    // Delete: the user takes no instrument off the list.
+    return -1;
+}
+
+void QuotesHandler::OnItemClick(int row, const CPoint& local, bool extend, unsigned int flags) {
+    if (const std::optional<std::size_t> cell = cellAt(local.x)) {
+        const QuoteColumn column = m_cells[*cell].column;
+        m_selectedColumnId =
+            static_cast<int>(std::find(m_columns.begin(), m_columns.end(), column) - m_columns.begin());
+    }
+    const bool control = (flags & MK_CONTROL) != 0;
+    if ((flags & MK_RBUTTON) != 0) {
+        // The menu is for all selected rows if the press was on one of them.
+        if (!m_selection.contains(row))
+            m_selection.select(row);
+    } else if (extend && control) {
+        // The mouse may tremble on a row that was just turned off.
+        if (row != m_selection.caret())
+            m_selection.extendKeepingTo(row);
+    } else if (extend) {
+        m_selection.extendTo(row);
+    } else if (control) {
+        m_selection.toggle(row);
+    } else {
+        m_selection.select(row);
+    }
+    selectionChanged();
+}
+
+void QuotesHandler::SetSelectedItem(int row, bool) {
+    m_selection.select(row);
+    selectionChanged();
+    // The caller may scroll now, and rows that are not marked keep their pixels.
+    repaintAll();
+}
+
+void QuotesHandler::SelectPosition(int column, int row) {
+    m_selectedColumnId = m_view->GetColumnId(column);
+    if (row != m_selection.caret())
+        m_selection.select(row);
+    selectionChanged();
+}
+
+CPoint QuotesHandler::GetSelectedPosition() {
+    return CPoint(m_view->GetColumnIdxFromId(m_selectedColumnId), m_selection.caret());
+}
+
+CPoint QuotesHandler::GetSelectedPositionStart() {
+    return CPoint(m_view->GetColumnIdxFromId(m_selectedColumnId), m_selection.anchor());
+}
+
+CPoint QuotesHandler::GetCell(int row, const CPoint& local) {
+    const std::optional<std::size_t> cell = cellAt(local.x);
+    return CPoint(cell ? static_cast<int>(*cell) : -1, row);
+}
+
+void QuotesHandler::GetCarretOffset(int& top, int& bottom) {
+    // Evens out the pixel that scrolling into view leaves above a row.
+    top = 1;
+    bottom = 0;
+}
+
+void QuotesHandler::stepColumn(int direction) {
+    const int count = m_view->GetColumnCount();
+    int position = m_view->GetColumnIdxFromId(m_selectedColumnId) + direction;
+    while (position >= 0 && position < count && !m_view->GetColumnVisibility(m_view->GetColumnId(position)))
+        position += direction;
+    if (position >= 0 && position < count)
+        m_selectedColumnId = m_view->GetColumnId(position);
+}
+
+void QuotesHandler::selectAllRows() {
+    m_selection.selectAll(m_view->GetItemCount());
+    selectionChanged();
+    repaintAll();
+}
+
+void QuotesHandler::collapseSelection() {
+    m_selection.collapse();
+    selectionChanged();
+    repaintAll();
+}
+
+void QuotesHandler::selectionChanged() {
+    m_viewIsStale = true;
+    m_events.onSelectionChanged();
+}
+
+} // namespace Desk

@@ -1,0 +1,157 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include <OrtinControls/ITableHandler.h>
+
+#include "CellWidths.h"
+#include "DeskFonts.h"
+#include "QuoteBook.h"
+#include "QuotesPainter.h"
+#include "core/ColumnLayout.h"
+#include "core/FindModel.h"
+#include "core/PriceFlashes.h"
+#include "core/RowSelection.h"
+#include "core/TickBatch.h"
+
+namespace Desk {
+
+/// What the quotes tell the window around the table. All on the window's thread.
+class QuotesEvents {
+public:
+    virtual ~QuotesEvents() = default;
+    virtual void onSelectionChanged() = 0;
+    virtual void onFindChanged() = 0;
+    /// A batch of ticks was taken; `last` is the latest of it.
+    virtual void onTicked(const Tick& last) = 0;
+    /// The view has been painted: position and size of what is in view may be others now.
+    virtual void onViewPainted() = 0;
+};
+
+/// The host's half of the quotes table. A row's word is the index of its instrument plus 1, for 0 means all rows where
+/// a repaint is asked. Columns are created in the order in which the user left them, so a column's id says nothing
+/// about what it shows; `columnOf` does.
+class QuotesHandler : public ITableHandler {
+public:
+    /// All outlive the handler.
+    QuotesHandler(QuoteBook& book, DeskFonts& fonts, QuotesEvents& events);
+
+    void setUpColumns(const ColumnLayout& layout);
+    void setUpRows();
+    ColumnLayout columnLayout() const;
+    QuoteColumn columnOf(int id) const { return m_columns[static_cast<std::size_t>(id)]; }
+
+    const QuoteBook& book() const { return m_book; }
+    const RowSelection& selection() const { return m_selection; }
+    void selectAllRows();
+    void collapseSelection();
+
+    const FindModel& find() const { return m_find; }
+    /// The place of the caret row among the found ones, from 1; 0 if it is none of them.
+    int foundOrdinal() const { return m_find.ordinalOf(m_selection.caret()); }
+
+    /// Any thread may add to it, and calls `ITableView::NotifyTableViewDataChange` when `TickBatch::add` says so.
+    TickBatch& ticks() { return m_ticks; }
+    /// Lets the flashes fade; false when none is left.
+    bool fadeFlashes(std::int64_t now);
+
+    /// Brings the search up to date after rows or columns came to be others.
+    void searchAgain();
+
+    void setAutoscroll(bool on);
+    void repaintAll();
+    /// Where a row lies in the view, for menus that belong to it.
+    CRect rowRectangle(int row) const;
+
+    // ITableHandler: drawing
+    int DrawItem(CDC& dc, int row, const CRect& rect) override;
+    void OnDrawFinished(CDC& dc) override;
+    void PrepareDraw() override;
+    void RefreshView() override;
+    int ComputeItemHeight(int row) override;
+    bool UseOptimalisation() const override { return true; }
+    bool IsPaintEnabled() override { return true; }
+    bool CanPaint() override { return true; }
+    bool IsAutoscrollEnabled() override { return m_autoscroll; }
+    int GetOptimalColumnWidth(int id) override;
+    __int64 GetToolTip(CRect& rect, CString& text) override;
+
+    // ITableHandler: selection and keys
+    int OnKey(unsigned int key, int pageRows) override;
+    int OnKey(unsigned int key) override;
+    void OnItemClick(int row, const CPoint& local, bool extend, unsigned int flags) override;
+    int GetSelectedItem() const override { return m_selection.caret(); }
+    int GetSelectedItemStart() const override { return m_selection.anchor(); }
+    void SetSelectedItem(int row, bool followsRowChange) override;
+    void SelectPosition(int column, int row) override;
+    CPoint GetSelectedPosition() override;
+    CPoint GetSelectedPositionStart() override;
+    CPoint GetCell(int row, const CPoint& local) override;
+    void GetCarretOffset(int& top, int& bottom) override;
+    /// True: only the cells of the caret's column.
+    bool CopySelectionToClipboard(bool onlyCaretColumn) override;
+
+    // ITableHandler: search
+    void SetFindMode(int mode) override;
+    bool IsFindMode() const override { return m_find.isActive(); }
+    void CancelFindMode() override { SetFindMode(0); }
+    /// The number of rows that hold the phrase. The option is not used.
+    int SearchPhrase(const wchar_t* phrase, int option) override;
+    /// Selects the next found row, or with a negative direction the previous one, and gives it; -1 if none is found.
+    int SearchNextPrev(int direction) override;
+    /// Selects the first found row at or after the caret.
+    bool SelectCurrentFound() override;
+
+    // ITableHandler: order and data
+    std::vector<std::pair<unsigned __int64, int>> SortElements(bool descending) override;
+    void OnElementsSorted() override;
+    bool SortColumnAvailable(int column) const override;
+    void OnSortByColumn(int column) override;
+    void OnTableViewDataChanged() override;
+
+    // ITableHandler: wiring
+    void SetTableView(ITableView* view) override { m_view = view; }
+    void SetListCtrl(CWnd* list) override { m_list = list; }
+    void TableHandlerReservedA() override {}
+    void TableHandlerReservedB() override {}
+
+private:
+    static unsigned __int64 dataOf(std::size_t instrument) { return instrument + 1; }
+    std::size_t instrumentAt(int row) const;
+    std::optional<std::size_t> cellAt(int x) const;
+    std::vector<QuoteColumn> visibleColumns() const;
+    void noteRows();
+    void stepColumn(int direction);
+    void selectionChanged();
+    bool showFoundRow(std::optional<int> row);
+    void search(const std::wstring& phrase);
+    void repaintInstrument(std::size_t instrument);
+    void drawCaret(CDC& dc, const CRect& rowRect);
+
+    QuoteBook& m_book;
+    DeskFonts& m_fonts;
+    QuotesEvents& m_events;
+    CellWidths m_widths;
+    QuotesPainter m_painter;
+
+    ITableView* m_view = nullptr;
+    CWnd* m_list = nullptr;
+    std::vector<QuoteColumn> m_columns; ///< by id
+    std::vector<CellSpan> m_cells;      ///< of the current paint, from the left
+    std::vector<int> m_rows;            ///< by instrument
+
+    RowSelection m_selection;
+    int m_selectedColumnId = 0;
+    FindModel m_find;
+    int m_sortedColumnId = -1;
+    TickBatch m_ticks;
+    PriceFlashes m_flashes;
+    bool m_autoscroll = false;
+    /// What `RefreshView` has to repaint: one row that is being marked, or all.
+    std::optional<std::size_t> m_markedInstrument;
+    bool m_viewIsStale = false;
+};
+
+} // namespace Desk
