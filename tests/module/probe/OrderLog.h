@@ -4,19 +4,20 @@
 
 #include <windows.h>
 
+template <typename Function>
+Function functionOfProgram(const char* name) {
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(nullptr), name)));
+}
+
 /// The stand-ins of this folder write what happens to them into the log of the program that loads the probe.
 inline void logOrder(const std::wstring& event) {
-    using Append = void (*)(const wchar_t*);
-    if (const auto append =
-            reinterpret_cast<Append>(::GetProcAddress(::GetModuleHandleW(nullptr), "appendToOrderLog"))) {
+    if (const auto append = functionOfProgram<void (*)(const wchar_t*)>("appendToOrderLog")) {
         append(event.c_str());
     }
 }
 
 /// Whether the loading program wants the registration to be refused.
 inline bool registrationIsRefused() {
-    using Refused = bool (*)();
-    const auto refused =
-        reinterpret_cast<Refused>(::GetProcAddress(::GetModuleHandleW(nullptr), "orderProbeIsRefused"));
+    const auto refused = functionOfProgram<bool (*)()>("orderProbeIsRefused");
     return refused != nullptr && refused();
 }
