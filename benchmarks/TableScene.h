@@ -51,6 +51,7 @@ public:
     int DrawItem(CDC& dc, int row, const CRect& rect) override;
     void SetTableView(ITableView* view) override { m_view = view; }
     void SetListCtrl(CWnd* list) override { m_list = list; }
+    using ITableHandler::OnKey;
     int OnKey(unsigned int) override { return -1; }
     void OnItemClick(int row, const CPoint&, bool, unsigned int) override { caret = row; }
     int GetSelectedItem() const override { return caret; }

@@ -16,6 +16,8 @@ namespace TolerantSort {
 
 inline constexpr std::ptrdiff_t kInsertionLimit = 32;
 inline constexpr std::ptrdiff_t kNintherLimit = 40;
+/// A partition whose left side is a smaller part of the whole than one in this is looked at for equal elements.
+inline constexpr std::ptrdiff_t kLopsided = 8;
 
 namespace Detail {
 
@@ -91,32 +93,17 @@ Iterator choosePivot(Iterator first, Iterator last, Before& before) {
     return middle;
 }
 
-/// Splits the range around a pivot; both scans stop at elements equal to it, so that equal elements spread over both
-/// sides, and both look where the range ends. Gives where the pivot came to lie.
-template <typename Iterator, typename Before>
-Iterator splitAroundPivot(Iterator first, Iterator last, Before& before) {
-    std::iter_swap(first, choosePivot(first, last, before));
-    const auto& pivot = *first;
-    Iterator low = std::next(first);
-    Iterator high = last;
-    for (;;) {
-        while (low < high && before(*low, pivot)) {
-            ++low;
-        }
-        while (low < high && before(pivot, *std::prev(high))) {
-            --high;
-        }
-        if (high - low < 2) {
-            break;
-        }
-        --high;
-        std::iter_swap(low, high);
-        ++low;
+/// Brings the elements that `belongs` holds for to the front and gives where they end. Each element is swapped whatever
+/// the answer, so that no branch hangs on it: the answers are what no processor can foresee.
+template <typename Iterator, typename Belongs>
+Iterator gather(Iterator first, Iterator last, Belongs belongs) {
+    Iterator end = first;
+    for (Iterator next = first; next != last; ++next) {
+        const bool takes = belongs(*next);
+        std::iter_swap(next, end);
+        end += takes ? 1 : 0;
     }
-    // With one element left between the scans, it belongs to the right side.
-    const Iterator place = std::prev(low);
-    std::iter_swap(first, place);
-    return place;
+    return end;
 }
 
 template <typename Iterator, typename Before>
@@ -127,13 +114,22 @@ void introSort(Iterator first, Iterator last, std::ptrdiff_t budget, Before& bef
             return;
         }
         budget = budget / 2 + budget / 4;
-        const Iterator pivot = splitAroundPivot(first, last, before);
-        if (pivot - first < last - pivot) {
-            introSort(first, pivot, budget, before);
-            first = std::next(pivot);
+        std::iter_swap(first, choosePivot(first, last, before));
+        const auto pivot = *first;
+        const Iterator place =
+            std::prev(gather(std::next(first), last, [&](const auto& element) { return before(element, pivot); }));
+        std::iter_swap(first, place);
+        Iterator right = std::next(place);
+        if (place - first < (last - first) / kLopsided) {
+            // Many equal elements split like this: they are in their place and need no sorting any more.
+            right = gather(right, last, [&](const auto& element) { return !before(pivot, element); });
+        }
+        if (place - first < last - right) {
+            introSort(first, place, budget, before);
+            first = right;
         } else {
-            introSort(std::next(pivot), last, budget, before);
-            last = pivot;
+            introSort(right, last, budget, before);
+            last = place;
         }
     }
     insertionSort(first, last, before);
