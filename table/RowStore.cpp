@@ -3,73 +3,7 @@
 #include <algorithm>
 
 #include "Rounding.h"
-
-namespace {
-
-/// How often each of a set of words is wanted. Most words that are looked up are not wanted, so a bit a word, which
-/// stays in the fastest cache, answers before the table is touched.
-class WantedWords {
-public:
-    struct Entry {
-        std::uint64_t word = 0;
-        std::uint32_t wanted = 0;
-        std::uint32_t matched = 0;
-    };
-
-    explicit WantedWords(std::size_t count) {
-        std::size_t capacity = 16;
-        while (capacity < count * 2) {
-            capacity *= 2;
-        }
-        m_entries.resize(capacity);
-        m_filter.resize(capacity * kFilterBitsPerEntry / 64);
-    }
-
-    Entry& want(std::uint64_t word) {
-        const std::uint64_t hash = hashOf(word);
-        const std::uint64_t bit = hash & filterMask();
-        m_filter[bit / 64] |= std::uint64_t{1} << (bit % 64);
-        Entry& entry = slot(word, hash);
-        entry.word = word;
-        return entry;
-    }
-
-    Entry* find(std::uint64_t word) {
-        const std::uint64_t hash = hashOf(word);
-        const std::uint64_t bit = hash & filterMask();
-        if ((m_filter[bit / 64] >> (bit % 64) & 1) == 0) {
-            return nullptr;
-        }
-        Entry& entry = slot(word, hash);
-        return entry.wanted == 0 ? nullptr : &entry;
-    }
-
-private:
-    static constexpr std::size_t kFilterBitsPerEntry = 8;
-
-    /// The multiplier of Fibonacci hashing, 2^64 divided by the golden ratio (Knuth, The Art of Computer Programming,
-    /// volume 3, section 6.4); the high half is mixed down, where the masks look.
-    static std::uint64_t hashOf(std::uint64_t word) {
-        const std::uint64_t product = word * 0x9E3779B97F4A7C15U;
-        return product ^ (product >> 32);
-    }
-
-    std::uint64_t filterMask() const { return m_entries.size() * kFilterBitsPerEntry - 1; }
-
-    Entry& slot(std::uint64_t word, std::uint64_t hash) {
-        const std::uint64_t mask = m_entries.size() - 1;
-        std::uint64_t index = (hash >> 20) & mask;
-        while (m_entries[index].wanted != 0 && m_entries[index].word != word) {
-            index = (index + 1) & mask;
-        }
-        return m_entries[index];
-    }
-
-    std::vector<Entry> m_entries;
-    std::vector<std::uint64_t> m_filter;
-};
-
-} // namespace
+#include "WantedWords.h"
 
 int RowStore::totalHeight() const {
     return saturateToInt(m_totalHeight);
@@ -158,65 +92,29 @@ bool RowStore::remove(Data data) {
     return true;
 }
 
-const RowStore::Data* RowStore::removeUntilMissing(const Data* first, const Data* last) {
-    if (last - first == 1) {
-        return remove(*first) ? last : first;
+std::size_t RowStore::removeUntilMissing(std::span<const Data> list) {
+    if (list.size() == 1) {
+        return remove(list.front()) ? 1 : 0;
     }
-    WantedWords words(static_cast<std::size_t>(last - first));
-    for (const Data* entry = first; entry != last; ++entry) {
-        ++words.want(*entry).wanted;
-    }
-    std::vector<std::size_t> matches;
-    matches.reserve(static_cast<std::size_t>(last - first));
-    for (std::size_t index = 0; index < m_rows.size(); ++index) {
-        WantedWords::Entry* const word = words.find(m_rows[index].first);
-        if (word != nullptr && word->matched < word->wanted) {
-            ++word->matched;
-            matches.push_back(index);
-        }
-    }
-
-    const Data* missing = first;
-    if (matches.size() == static_cast<std::size_t>(last - first)) {
-        missing = last;
-    } else {
-        // The entries before the first that has no row left are served; what later ones would have taken stays.
-        for (; missing != last; ++missing) {
-            WantedWords::Entry& word = *words.find(*missing);
-            if (word.matched == 0) {
-                break;
-            }
-            --word.matched;
-        }
-        for (const Data* served = first; served != last; ++served) {
-            words.find(*served)->matched = 0;
-        }
-        for (const Data* served = first; served != missing; ++served) {
-            ++words.find(*served)->matched;
-        }
-        std::erase_if(matches, [&](std::size_t index) {
-            WantedWords::Entry& word = *words.find(m_rows[index].first);
-            if (word.matched == 0) {
-                return true;
-            }
-            --word.matched;
-            return false;
-        });
-    }
-    if (matches.empty()) {
+    WantedWords words(list);
+    const std::vector<std::uint32_t> taken = words.takeRows(m_rows);
+    if (taken.size() < list.size()) {
+        const std::size_t missing = words.firstMissing(list);
+        removeUntilMissing(list.first(missing));
         return missing;
     }
-
-    auto kept = m_rows.begin() + static_cast<std::ptrdiff_t>(matches.front());
-    for (std::size_t match = 0; match < matches.size(); ++match) {
-        m_totalHeight -= m_rows[matches[match]].second;
-        const std::size_t next = match + 1 < matches.size() ? matches[match + 1] : m_rows.size();
-        kept = std::move(m_rows.begin() + static_cast<std::ptrdiff_t>(matches[match]) + 1,
-                         m_rows.begin() + static_cast<std::ptrdiff_t>(next), kept);
+    if (taken.empty()) {
+        return 0;
+    }
+    auto kept = m_rows.begin() + taken.front();
+    for (std::size_t gap = 0; gap < taken.size(); ++gap) {
+        m_totalHeight -= m_rows[taken[gap]].second;
+        const auto next = gap + 1 < taken.size() ? m_rows.begin() + taken[gap + 1] : m_rows.end();
+        kept = std::move(m_rows.begin() + taken[gap] + 1, next, kept);
     }
     m_rows.erase(kept, m_rows.end());
     changed();
-    return missing;
+    return list.size();
 }
 
 void RowStore::move(Data data, int row) {

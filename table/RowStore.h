@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -44,9 +45,9 @@ public:
     void insert(const std::vector<Row>& rows, int row);
     /// Erases the first row with that data. False if there is none.
     bool remove(Data data);
-    /// Erases, for each entry of [first, last) in order, the first row with that data, until an entry has no row any
-    /// more. Gives that entry, or `last`. One pass over the rows, however many entries.
-    const Data* removeUntilMissing(const Data* first, const Data* last);
+    /// Erases, for each entry of the list in order, the first row with that data, until an entry has no row any more.
+    /// Gives the index of that entry, or the length of the list. One pass over the rows, however many entries.
+    std::size_t removeUntilMissing(std::span<const Data> list);
     /// Moves the first row with that data to `row`, with height 0 until it is known again.
     void move(Data data, int row);
     void replace(std::vector<Row> rows);

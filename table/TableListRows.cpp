@@ -2,6 +2,8 @@
 
 #include "TableList.h"
 
+#include <span>
+
 #include <OrtinControls/ITableHandler.h>
 
 void TableList::insertRow(std::uint64_t data, int row) {
@@ -24,20 +26,18 @@ void TableList::insertRows(const std::vector<RowStore::Row>& rows, int row) {
 }
 
 void TableList::removeRows(const std::vector<std::uint64_t>& list) {
-    // The host may change the rows whenever it is told, but never the list.
-    const std::uint64_t* next = list.data();
-    const std::uint64_t* const end = next + list.size();
-    while (next != end) {
-        next = m_rows.removeUntilMissing(next, end);
+    std::span<const std::uint64_t> rest(list);
+    while (!rest.empty()) {
+        rest = rest.subspan(m_rows.removeUntilMissing(rest));
         m_scrollDirty = true;
-        if (next != end) {
+        if (!rest.empty()) {
             // A removal that finds its row leaves find mode and the back buffer alone: only one that finds none ends
             // both.
             if (m_handler != nullptr) {
                 m_handler->SetFindMode(0);
             }
             requestFullRedraw();
-            ++next;
+            rest = rest.subspan(1);
         }
     }
 }

@@ -171,11 +171,10 @@ private:
             }
         }
         std::vector<std::size_t> misses;
-        const std::uint64_t* const end = list.data() + list.size();
-        for (const std::uint64_t* next = list.data(); next != end;) {
-            next = store.removeUntilMissing(next, end);
-            if (next != end) {
-                misses.push_back(static_cast<std::size_t>(next - list.data()));
+        for (std::size_t next = 0; next < list.size();) {
+            next += store.removeUntilMissing(std::span(list).subspan(next));
+            if (next < list.size()) {
+                misses.push_back(next);
                 ++next;
             }
         }
@@ -239,7 +238,7 @@ TEST(RowStoreRandomly, TenThousandOfAHundredThousandRowsGoInOneList) {
     for (const std::size_t index : indexes) {
         list.push_back(rows[index].first);
     }
-    EXPECT_EQ(list.data() + list.size(), store.removeUntilMissing(list.data(), list.data() + list.size()));
+    EXPECT_EQ(list.size(), store.removeUntilMissing(list));
 
     std::sort(indexes.begin(), indexes.end());
     Rows kept;

@@ -149,11 +149,9 @@ TEST_F(StoredRows, TheSumOfHugeHeightsSaturates) {
 TEST_F(StoredRows, RemovingAListStopsAtTheFirstWordWithoutARow) {
     fill({{1, 1}, {2, 2}, {3, 3}, {2, 4}});
     const Words list{2, 3, 9, 1, 2};
-    const RowStore::Data* const end = list.data() + list.size();
-    const RowStore::Data* const missing = store.removeUntilMissing(list.data(), end);
-    ASSERT_EQ(list.data() + 2, missing);
+    ASSERT_EQ(2U, store.removeUntilMissing(list));
     EXPECT_EQ((Words{1, 2}), words());
-    EXPECT_EQ(end, store.removeUntilMissing(missing + 1, end));
+    EXPECT_EQ(2U, store.removeUntilMissing(std::span(list).subspan(3)));
     EXPECT_EQ(0, store.count());
     EXPECT_EQ(0, store.totalHeight());
 }
@@ -161,14 +159,14 @@ TEST_F(StoredRows, RemovingAListStopsAtTheFirstWordWithoutARow) {
 TEST_F(StoredRows, AWordListedMoreOftenThanItHasRowsIsMissingTheLastTime) {
     fill({{5, 1}, {5, 1}, {6, 1}});
     const Words list{5, 5, 5, 6};
-    EXPECT_EQ(list.data() + 2, store.removeUntilMissing(list.data(), list.data() + list.size()));
+    EXPECT_EQ(2U, store.removeUntilMissing(list));
     EXPECT_EQ((Words{6}), words());
 }
 
 TEST_F(StoredRows, RemovingAnEmptyListDoesNothing) {
     fill({{5, 1}});
     const Words list;
-    EXPECT_EQ(list.data(), store.removeUntilMissing(list.data(), list.data()));
+    EXPECT_EQ(0U, store.removeUntilMissing(list));
     EXPECT_EQ(1, store.count());
 }
 
