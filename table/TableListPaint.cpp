@@ -169,12 +169,10 @@ bool TableList::fitBackBuffer(CDC& target, CSize size) {
 /// Lets the host prepare the drawing and gives the height of all rows.
 int TableList::prepareRows() {
     m_handler->PrepareDraw();
-    std::int64_t total = 0;
     for (int row = 0; row < m_rows.count(); ++row) {
         m_handler->UpdateItemPosition(row);
-        total += m_rows.height(row);
     }
-    return static_cast<int>(std::clamp<std::int64_t>(total, 0, std::numeric_limits<int>::max()));
+    return std::max(m_rows.totalHeight(), 0);
 }
 
 void TableList::switchAutoscroll(int scrollPosition, int total, std::int64_t now) {
