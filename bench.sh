@@ -5,15 +5,11 @@ caller=$PWD
 # shellcheck source=scripts/build.sh
 . "$(dirname "${BASH_SOURCE[0]}")/scripts/build.sh"
 
-options=()
-for option in "$@"; do
-    options+=("$(windows_path "$option")")
-done
-
 need_packages build test wine display
 need_locale
 build windows-release ortin_bench
 
 step "measuring"
+# Wine begins on the drive of the root, so that paths mean the same on both sides.
 cd "$caller"
-DISPLAY='' "$root/scripts/wine-run.sh" 96 "$root/build/windows-release/bin/ortin_bench.exe" "${options[@]}"
+DISPLAY='' "$root/scripts/wine-run.sh" 96 "$root/build/windows-release/bin/ortin_bench.exe" "$@"

@@ -12,16 +12,12 @@ window=yes
 while [ $# -gt 0 ]; do
     case $1 in
         --shots)
-            [ $# -gt 1 ] || fail "--shots needs a folder"
+            if [ $# = 1 ]; then
+                echo "error: --shots needs a folder" >&2
+                exit 2
+            fi
             shots=$2
             shift
-            ;;
-        --instruments | --candles)
-            options+=("$1")
-            if [ $# -gt 1 ]; then
-                options+=("$(windows_path "$2")")
-                shift
-            fi
             ;;
         --help)
             window=no
@@ -44,6 +40,7 @@ need_locale
 build windows OrtinDesk
 
 desk=$root/build/windows/bin/OrtinDesk.exe
+# Wine begins on the drive of the root, so that paths mean the same on both sides.
 cd "$caller"
 if [ -z "$shots" ]; then
     step "starting OrtinDesk"
@@ -53,5 +50,5 @@ for dpi in 96 144; do
     folder=$shots
     [ "$dpi" = 96 ] || folder=$shots/$dpi
     step "writing pictures at $dpi DPI into $folder"
-    DISPLAY='' "$root/scripts/wine-run.sh" "$dpi" "$desk" "${options[@]}" --shots "$(windows_path "$folder")"
+    DISPLAY='' "$root/scripts/wine-run.sh" "$dpi" "$desk" "${options[@]}" --shots "$folder" | sed 's/\r$//; s#\\#/#g'
 done

@@ -41,11 +41,3 @@ build() {
     step "building $preset"
     cmake --build --preset "$preset" "${targets[@]}" >&2 || fail "$preset: could not be built"
 }
-
-# windows_path PATH: a relative path means the same on both sides, an absolute one lies on Wine's drive of the root.
-windows_path() {
-    case $1 in
-        /*) echo "Z:$1" ;;
-        *) echo "$1" ;;
-    esac
-}
