@@ -66,6 +66,7 @@ BEGIN_MESSAGE_MAP(DeskWindow, CWnd)
     ON_MESSAGE(WM_EXITSIZEMOVE, OnExitSizeMove)
     ON_WM_GETMINMAXINFO()
     ON_WM_SETFOCUS()
+    ON_WM_ACTIVATE()
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
     ON_WM_TIMER()
@@ -296,6 +297,10 @@ void DeskWindow::OnTimer(UINT_PTR timer) {
 void DeskWindow::onPhraseChanged(const std::wstring& phrase) {
     if (m_handler.SearchPhrase(phrase.c_str(), 0) > 0)
         m_handler.SelectCurrentFound();
+}
+
+void DeskWindow::onFindFocusChanged() {
+    m_handler.repaintAll();
 }
 
 void DeskWindow::onFindNext(bool forward) {

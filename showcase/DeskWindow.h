@@ -48,6 +48,7 @@ protected:
     afx_msg LRESULT OnExitSizeMove(WPARAM, LPARAM);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* info);
     afx_msg void OnSetFocus(CWnd* oldWindow);
+    afx_msg void OnActivate(UINT state, CWnd* other, BOOL minimized);
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnTimer(UINT_PTR timer);
@@ -66,6 +67,7 @@ private:
     // StripEvents
     void onPhraseChanged(const std::wstring& phrase) override;
     void onFindNext(bool forward) override;
+    void onFindFocusChanged() override;
     void onSwitch(StripSwitch which) override;
 
     BOOL createTable();

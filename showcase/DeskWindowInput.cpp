@@ -109,6 +109,13 @@ void DeskWindow::OnSetFocus(CWnd*) {
         focusTable();
 }
 
+void DeskWindow::OnActivate(UINT state, CWnd* other, BOOL minimized) {
+    CWnd::OnActivate(state, other, minimized);
+    // The caret looks another way without the focus.
+    if (m_body)
+        m_handler.repaintAll();
+}
+
 // Menus
 
 void DeskWindow::showRowMenu(CPoint screen) {

@@ -76,6 +76,8 @@ BEGIN_MESSAGE_MAP(TopStrip, CWnd)
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONDBLCLK()
     ON_EN_CHANGE(FindBoxId, OnPhraseChanged)
+    ON_EN_SETFOCUS(FindBoxId, OnFindFocusChanged)
+    ON_EN_KILLFOCUS(FindBoxId, OnFindFocusChanged)
 END_MESSAGE_MAP()
 
 TopStrip::TopStrip(DeskFonts& fonts, StripEvents& events) : m_fonts(fonts), m_events(events) {}
@@ -285,6 +287,12 @@ void TopStrip::OnLButtonDown(UINT, CPoint point) {
 
 void TopStrip::OnLButtonDblClk(UINT flags, CPoint point) {
     OnLButtonDown(flags, point);
+}
+
+void TopStrip::OnFindFocusChanged() {
+    const CRect box = itemRect(m_layout.findBox);
+    InvalidateRect(&box, FALSE);
+    m_events.onFindFocusChanged();
 }
 
 void TopStrip::OnPhraseChanged() {

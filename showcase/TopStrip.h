@@ -20,6 +20,8 @@ public:
     virtual ~StripEvents() = default;
     virtual void onPhraseChanged(const std::wstring& phrase) = 0;
     virtual void onFindNext(bool forward) = 0;
+    /// The focus came to the search box or left it.
+    virtual void onFindFocusChanged() = 0;
     virtual void onSwitch(StripSwitch which) = 0;
 };
 
@@ -56,6 +58,7 @@ protected:
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnPhraseChanged();
+    afx_msg void OnFindFocusChanged();
     DECLARE_MESSAGE_MAP()
 
 private:

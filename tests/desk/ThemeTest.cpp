@@ -1,0 +1,40 @@
+#include "DeskProcess.h"
+#include "support/RealInput.h"
+
+using Theme = DeskOnScreen;
+
+namespace {
+
+/// The switch stands last in the strip.
+constexpr int FromRight = 60;
+
+} // namespace
+
+TEST_F(Theme, TheSwitchPaintsEveryPartOfTheWindowAnewAndIsKept) {
+    start();
+    support::click(onScreen(strip(), pixelsOf(strip()).width() - scaled(FromRight), scaled(20)));
+    EXPECT_TRUE(eventually([&] { return pixelsOf(body()).count(RGB(0x28, 0x28, 0x28)) > 1000; }));
+    support::moveMouse(onScreen(statusLine(), scaled(300), 4));
+    settle();
+    // No part is left in the white theme: nothing but letters and marks is bright.
+    for (const HWND window : {strip(), header(), body(), scrollBar(), statusLine()}) {
+        const support::Pixels pixels = pixelsOf(window);
+        std::size_t bright = 0;
+        for (int y = 0; y < pixels.height(); ++y)
+            for (int x = 0; x < pixels.width(); ++x)
+                bright += GetGValue(pixels.at(x, y)) > 0x90 ? 1 : 0;
+        EXPECT_LT(bright * 10, static_cast<std::size_t>(pixels.width()) * static_cast<std::size_t>(pixels.height()))
+            << "window " << ::GetDlgCtrlID(window);
+    }
+    close();
+    EXPECT_NE(settings().find("/theme=black"), std::string::npos);
+
+    start();
+    EXPECT_GT(pixelsOf(body()).count(RGB(0x28, 0x28, 0x28)), 1000u);
+}
+
+TEST_F(Theme, TheCommandLineGoesBeforeWhatWasKept) {
+    start({L"--theme", L"black"});
+    EXPECT_GT(pixelsOf(body()).count(RGB(0x28, 0x28, 0x28)), 1000u);
+    EXPECT_EQ(pixelsOf(body()).count(RGB(255, 255, 255)), 0u);
+}
