@@ -12,13 +12,11 @@ cmake cmake
 ninja-build ninja
 ccache ccache
 g++-mingw-w64-x86-64-posix x86_64-w64-mingw32-g++-posix
+googletest /usr/src/googletest/CMakeLists.txt
 END
             ;;
         test)
-            cat <<'END'
-g++ g++
-googletest /usr/src/googletest/CMakeLists.txt
-END
+            echo "g++ g++"
             ;;
         wine)
             cat <<'END'
