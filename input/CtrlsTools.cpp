@@ -36,7 +36,8 @@ bool IsWindowVisible(CWnd* parent, int id) {
     return child != nullptr && child->IsWindowVisible() == TRUE;
 }
 
-void SetWindowTextW(CWnd* parent, int id, CString text) {
+// The signature is fixed.
+void SetWindowTextW(CWnd* parent, int id, CString text) { // NOLINT(performance-unnecessary-value-param)
     if (CWnd* const child = childOf(parent, id)) {
         child->SetWindowTextW(text);
     }

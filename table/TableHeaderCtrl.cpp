@@ -66,7 +66,7 @@ void TableHeaderCtrl::insertItem(int id, const wchar_t* title, int width) {
     HDITEMW item{};
     item.mask = HDI_WIDTH | HDI_TEXT | HDI_FORMAT;
     item.cxy = width;
-    item.pszText = const_cast<wchar_t*>(title); // NOLINT(cppcoreguidelines-pro-type-const-cast): only read
+    item.pszText = const_cast<wchar_t*>(title); // only read
     item.fmt = HDF_STRING;
     InsertItem(id, &item);
 }
@@ -74,7 +74,7 @@ void TableHeaderCtrl::insertItem(int id, const wchar_t* title, int width) {
 void TableHeaderCtrl::setItemText(int id, const wchar_t* title) {
     HDITEMW item{};
     item.mask = HDI_TEXT;
-    item.pszText = const_cast<wchar_t*>(title); // NOLINT(cppcoreguidelines-pro-type-const-cast): only read
+    item.pszText = const_cast<wchar_t*>(title); // only read
     SetItem(id, &item);
 }
 
