@@ -73,6 +73,7 @@ bool TableCtrl::createChildren() {
     }
     UpdateHeaderPos();
     createHeaderFont();
+    UpdateHeaderPos(); // the font has given it another height, and the body is placed under it
     m_state->header.ShowWindow(SW_SHOW);
     if (!m_state->list.createIn(this)) {
         return false;
