@@ -2,6 +2,9 @@
 
 #include "TableList.h"
 
+#include <algorithm>
+#include <limits>
+
 #include <OrtinControls/ITableHandler.h>
 
 #include "ScopedFlag.h"
@@ -51,12 +54,13 @@ void TableList::updateScroll() {
     if (total > view && !autoscrollIsOn()) {
         const int position = GetScrollPos(SB_VERT);
         ShowScrollBar(SB_VERT, showScrollbar);
-        SCROLLINFO page{};
-        page.cbSize = sizeof page;
-        page.fMask = SIF_PAGE;
-        page.nPage = static_cast<UINT>(view + kBeyondContent);
-        SetScrollInfo(SB_VERT, &page, FALSE);
-        SetScrollRange(SB_VERT, 0, total + kBeyondContent, FALSE);
+        // Page and range together: a page that is set first is cut to the range of before.
+        SCROLLINFO content{};
+        content.cbSize = sizeof content;
+        content.fMask = SIF_PAGE | SIF_RANGE;
+        content.nPage = static_cast<UINT>(view + kBeyondContent);
+        content.nMax = std::min(total, std::numeric_limits<int>::max() - kBeyondContent) + kBeyondContent;
+        SetScrollInfo(SB_VERT, &content, FALSE);
         if (bottomKeeper.enabled) {
             if (const std::optional<int> kept = bottomKeeper.update(position, view, total)) {
                 SetScrollPos(SB_VERT, *kept, TRUE);
