@@ -30,15 +30,16 @@ std::optional<int> intoView(const RowSpan& span, int viewTop, int viewHeight, Ma
 }
 
 std::optional<int> afterCommand(unsigned int command, const BarState& bar) {
+    const std::int64_t position = bar.position;
     switch (command) {
     case LineUp:
-        return bar.position - kLineStep;
+        return saturateToInt(position - kLineStep);
     case LineDown:
-        return bar.position + kLineStep;
+        return saturateToInt(position + kLineStep);
     case PageUp:
-        return bar.position - bar.viewHeight;
+        return saturateToInt(position - bar.viewHeight);
     case PageDown:
-        return bar.position + bar.viewHeight;
+        return saturateToInt(position + bar.viewHeight);
     case ThumbPosition:
     case ThumbTrack:
         return bar.trackPosition;
@@ -52,13 +53,14 @@ std::optional<int> afterCommand(unsigned int command, const BarState& bar) {
 }
 
 int afterWheel(int position, int wheelDelta, int rangeMaximum) {
-    return std::max(0, std::min(position - wheelDelta / kWheelUnitsPerPixel, rangeMaximum));
+    const int turned = saturateToInt(std::int64_t{position} - wheelDelta / kWheelUnitsPerPixel);
+    return std::max(0, std::min(turned, rangeMaximum));
 }
 
 std::optional<int> BottomKeeper::update(int position, int viewHeight, int totalHeight) {
     std::optional<int> kept;
     if (m_lastViewHeight != -1) {
-        kept = m_lastViewHeight - m_lastTotalHeight - viewHeight + position + totalHeight;
+        kept = saturateToInt(std::int64_t{m_lastViewHeight} - m_lastTotalHeight - viewHeight + position + totalHeight);
     }
     m_lastViewHeight = viewHeight;
     m_lastTotalHeight = totalHeight;

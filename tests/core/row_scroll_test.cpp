@@ -78,6 +78,12 @@ TEST(ScrollBarCommands, MayLeadPastTheEndsWhichTheBarItselfClamps) {
     EXPECT_EQ(-117, RowScroll::afterCommand(2, {3, 120, 0, 1000}));
 }
 
+TEST(ScrollBarCommands, SaturateInAHugeContent) {
+    EXPECT_EQ(kMost, RowScroll::afterCommand(1, {kMost - 3, 120, 0, kMost}));
+    EXPECT_EQ(kMost, RowScroll::afterCommand(3, {kMost - 3, 120, 0, kMost}));
+    EXPECT_EQ(kMost, RowScroll::afterWheel(kMost - 3, -120, kMost));
+}
+
 TEST(TheWheel, MovesByAnEighthOfItsTurnWithinTheRange) {
     struct Case {
         const char* what;
@@ -117,6 +123,13 @@ TEST(KeepingToTheBottom, AViewThatShrinksShowsTheSameLastRow) {
     RowScroll::BottomKeeper keeper;
     keeper.update(300, 100, 400);
     EXPECT_EQ(330, keeper.update(300, 70, 400));
+}
+
+TEST(KeepingToTheBottom, SaturatesInAHugeContent) {
+    RowScroll::BottomKeeper keeper;
+    keeper.update(0, 0, kMost);
+    EXPECT_EQ(kLeast, keeper.update(0, 100, 0));
+    EXPECT_EQ(kMost, keeper.update(kMost, 50, kMost));
 }
 
 TEST(KeepingToTheBottom, IsOffUntilItIsAskedFor) {
