@@ -92,19 +92,27 @@ bool RowStore::remove(Data data) {
     return true;
 }
 
-std::size_t RowStore::removeUntilMissing(std::span<const Data> list) {
+RowStore::Removal RowStore::removeUntilMissing(std::span<const Data> list) {
     if (list.size() == 1) {
-        return remove(list.front()) ? 1 : 0;
+        return remove(list.front()) ? Removal{1, 0} : Removal{0, 1};
     }
     WantedWords words(list);
     const std::vector<std::uint32_t> taken = words.takeRows(m_rows);
-    if (taken.size() < list.size()) {
-        const std::size_t missing = words.firstMissing(list);
-        removeUntilMissing(list.first(missing));
-        return missing;
+    if (taken.size() == list.size()) {
+        erase(taken);
+        return {list.size(), 0};
     }
+    const std::size_t found = words.firstMissing(list);
+    const std::size_t missing = words.firstFound(list.subspan(found));
+    if (found > 0) {
+        removeUntilMissing(list.first(found));
+    }
+    return {found, missing};
+}
+
+void RowStore::erase(const std::vector<std::uint32_t>& taken) {
     if (taken.empty()) {
-        return 0;
+        return;
     }
     auto kept = m_rows.begin() + taken.front();
     for (std::size_t gap = 0; gap < taken.size(); ++gap) {
@@ -114,7 +122,6 @@ std::size_t RowStore::removeUntilMissing(std::span<const Data> list) {
     }
     m_rows.erase(kept, m_rows.end());
     changed();
-    return list.size();
 }
 
 void RowStore::move(Data data, int row) {

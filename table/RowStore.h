@@ -45,9 +45,14 @@ public:
     void insert(const std::vector<Row>& rows, int row);
     /// Erases the first row with that data. False if there is none.
     bool remove(Data data);
+    /// How far a list was gone through: entries that found their row, and entries right behind them that found none.
+    struct Removal {
+        std::size_t removed = 0;
+        std::size_t missing = 0;
+    };
     /// Erases, for each entry of the list in order, the first row with that data, until an entry has no row any more.
-    /// Gives the index of that entry, or the length of the list. One pass over the rows, however many entries.
-    std::size_t removeUntilMissing(std::span<const Data> list);
+    /// One pass over the rows, however many entries.
+    Removal removeUntilMissing(std::span<const Data> list);
     /// Moves the first row with that data to `row`, with height 0 until it is known again.
     void move(Data data, int row);
     void replace(std::vector<Row> rows);
@@ -55,6 +60,8 @@ public:
 
 private:
     void changed() { ++m_revision; }
+    /// `taken` lists row indexes in ascending order.
+    void erase(const std::vector<std::uint32_t>& taken);
     std::size_t clampedIndex(int row) const;
 
     std::vector<Row> m_rows;

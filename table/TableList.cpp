@@ -1,5 +1,7 @@
 #include "TableList.h"
 
+#include <algorithm>
+
 #include <OrtinControls/ITableHandler.h>
 #include <OrtinControls/ITableView.h>
 #include <OrtinControls/TooltipTools.h>
@@ -89,7 +91,9 @@ INT_PTR TableList::OnToolHitTest(CPoint point, TOOLINFO* toolInfo) const {
     if (id == -1 || text.IsEmpty()) {
         return -1;
     }
-    CXTPToolTipContext::FillInToolInfo(toolInfo, m_hWnd, rect, static_cast<INT_PTR>(id), text);
+    if (toolInfo != nullptr) {
+        CXTPToolTipContext::FillInToolInfo(toolInfo, m_hWnd, rect, static_cast<INT_PTR>(id), text);
+    }
     return static_cast<INT_PTR>(id);
 }
 
@@ -137,9 +141,7 @@ void TableList::OnKeyDown(UINT key, UINT /*repeat*/, UINT /*flags*/) {
     default:
         break;
     }
-    if (m_handler != nullptr) {
-        m_handler->SetFindMode(0);
-    }
+    m_handler->SetFindMode(0);
     if (GetSafeHwnd() != nullptr) {
         SetFocus();
     }

@@ -45,7 +45,6 @@ public:
 
     BOOL createIn(CWnd* parent);
     void setHandler(ITableHandler* handler) { m_handler = handler; }
-    ITableHandler* handler() const { return m_handler; }
     void setContextMenu(std::shared_ptr<IContextMenuBase> contextMenu) { m_contextMenu = std::move(contextMenu); }
     void enableColumnWidthTracking(bool enable);
     void refreshToolTipColors();
@@ -72,8 +71,9 @@ public:
     void updateScroll();
     void scrollIntoView(int row);
     int clientHeight() const;
-    int clientWidth() const;
     int rangeMaximum() const;
+    /// The content coordinate of a client coordinate of this window.
+    int contentY(int clientY) const;
 
     bool vScrollAlwaysVisible = false;
     bool showScrollbar = true;
@@ -108,8 +108,12 @@ private:
         CRect rect;
     };
 
+    /// Stores the height that the handler has for the row. Needs a handler.
+    void askHeight(int row);
+
     bool mayPaint() const;
     void paint(CDC& target);
+    bool paintUntilHeightsSettle(CDC& target);
     PaintResult paintOnce(CDC& target, bool showAnyway);
     bool fitBackBuffer(CDC& target, CSize size);
     int prepareRows();
@@ -117,6 +121,7 @@ private:
     bool drawRunning(CDC& dc, CSize view, int total, std::int64_t now, int& bottom);
     bool drawNormal(CDC& dc, CSize view, int scrollPosition, const std::set<std::uint64_t>* dirty, int& bottom,
                     std::optional<SelectedRow>& selected);
+    CRect rectBelow(int top, int row, int width) const;
     bool drawRow(CDC& dc, int row, const CRect& rect);
     bool autoscrollIsOn() const { return m_autoscrollPos != std::numeric_limits<double>::infinity(); }
     int effectiveScrollPos() const;
@@ -143,6 +148,10 @@ private:
     bool m_scrollDirty = true;
     bool m_updatingScroll = false;
     bool m_painting = false;
+    /// The host asked for a paint from inside one.
+    bool m_paintAgain = false;
+    /// What was invalidated during a paint with new heights is being painted.
+    bool m_catchingUp = false;
     bool m_mouseDown = false;
     CPoint m_dragOrigin;
     bool m_dragArmed = false;

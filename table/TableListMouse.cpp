@@ -8,6 +8,7 @@
 #include <OrtinControls/ITableView.h>
 #include <OrtinFoundation/Keyboard.h>
 
+#include "Rounding.h"
 #include "TableMessages.h"
 
 namespace {
@@ -25,7 +26,7 @@ void TableList::clickRow(CPoint point, bool extend, UINT flags) {
     if (GetSafeHwnd() == nullptr) {
         return;
     }
-    const int y = point.y + GetScrollPos(SB_VERT);
+    const int y = contentY(point.y);
     if (const std::optional<RowSpan> span = m_rows.rowAt(y)) {
         m_handler->OnItemClick(span->row, CPoint(point.x, y - span->top), extend, flags);
         repaintNow();
@@ -60,10 +61,11 @@ void TableList::OnLButtonDown(UINT flags, CPoint point) {
 }
 
 void TableList::OnLButtonUp(UINT /*flags*/, CPoint /*point*/) {
+    // Also when the host has taken the rows away or tracking off since the press.
+    if (m_tracker.overBorder && GetCapture() == this) {
+        ::ReleaseCapture();
+    }
     if (tracksBorder()) {
-        if (GetCapture() == this) {
-            ::ReleaseCapture();
-        }
         m_tracker.overBorder = false;
         m_tracker.column = -1;
         m_tracker.startWidth = -1;
@@ -114,7 +116,7 @@ bool TableList::trackBorder(UINT flags, CPoint point) {
     }
     if ((flags & MK_LBUTTON) != 0 && m_mouseDown) {
         if (m_tracker.overBorder) {
-            const int width = m_tracker.startWidth - m_tracker.startX + point.x;
+            const int width = saturateToInt(std::int64_t{m_tracker.startWidth} - m_tracker.startX + point.x);
             m_tracker.target->SendMessage(TableMessages::kTrackColumnWidth, static_cast<WPARAM>(m_tracker.column),
                                           static_cast<LPARAM>(width));
         }
@@ -129,7 +131,7 @@ void TableList::searchBorder(int x) {
     m_tracker.overBorder = false;
     m_tracker.column = -1;
     m_tracker.startWidth = -1;
-    int edge = 0;
+    std::int64_t edge = 0;
     for (int position = 0; position < m_view->GetColumnCount(); ++position) {
         const int width = m_view->GetColumnWidth(m_view->GetColumnId(position));
         edge += width;
@@ -159,8 +161,9 @@ void TableList::dragRow(UINT flags, CPoint point) {
     const int limit = (::GetSystemMetrics(SM_CXDRAG) + ::GetSystemMetrics(SM_CYDRAG)) / 4;
     const bool moved = std::abs(point.x - m_dragOrigin.x) > limit || std::abs(point.y - m_dragOrigin.y) > limit;
     if (m_dragArmed && m_handler != nullptr && moved) {
-        m_handler->BeginDrag();
+        // Disarmed before the call: a host that drags in a loop of its own gets more moves in the middle of it.
         m_dragArmed = false;
+        m_handler->BeginDrag();
     }
 }
 

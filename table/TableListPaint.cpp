@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include <OrtinControls/ITableHandler.h>
 #include <OrtinControls/SystemColors.h>
@@ -77,27 +78,40 @@ BOOL TableList::OnEraseBkgnd(CDC* /*dc*/) {
 
 void TableList::paint(CDC& target) {
     if (m_painting) {
-        // The host asks for a paint from inside one: the back buffer is in use, so the paint follows this one.
+        // The host asks for a paint from inside one: the back buffer is in use, so the paint follows this one. Only
+        // then is the window invalid again, or a message loop that the host runs meanwhile would paint without end.
         requestFullRedraw();
-        if (GetSafeHwnd() != nullptr) {
-            InvalidateRect(nullptr, FALSE);
-        }
+        m_paintAgain = true;
         return;
     }
+    const bool restarted = paintUntilHeightsSettle(target);
+    if (std::exchange(m_paintAgain, false) && GetSafeHwnd() != nullptr) {
+        InvalidateRect(nullptr, FALSE);
+    }
+    // A host that changes heights and invalidates in every paint would make this go ever deeper.
+    if (restarted && !m_catchingUp && GetSafeHwnd() != nullptr) {
+        const ScopedFlag catchingUp(m_catchingUp);
+        UpdateWindow();
+    }
+}
+
+/// True if a new height made it start again.
+bool TableList::paintUntilHeightsSettle(CDC& target) {
+    const ScopedFlag painting(m_painting);
     bool restarted = false;
-    {
-        const ScopedFlag painting(m_painting);
-        int restartsLeft = std::max(kLeastRestartLimit, clientHeight());
+    int restartsLeft = std::max(kLeastRestartLimit, clientHeight());
+    try {
         while (GetSafeHwnd() != nullptr && paintOnce(target, restartsLeft == 0) == PaintResult::HeightChanged) {
             requestFullRedraw();
             updateScroll();
             --restartsLeft;
             restarted = true;
         }
+    } catch (...) {
+        requestFullRedraw(); // the host threw while drawing: the back buffer is half done
+        throw;
     }
-    if (restarted && GetSafeHwnd() != nullptr) {
-        UpdateWindow();
-    }
+    return restarted;
 }
 
 TableList::PaintResult TableList::paintOnce(CDC& target, bool showAnyway) {
@@ -210,13 +224,14 @@ bool TableList::drawRunning(CDC& dc, CSize view, int total, std::int64_t now, in
     bottom = first->top - position;
     int row = first->row;
     // Rows without height could go round for ever; one round that leads nowhere ends it.
+    int lowest = bottom;
     int rowsWithoutProgress = 0;
     while (bottom <= view.cy && m_rows.count() > 0 && rowsWithoutProgress < m_rows.count()) {
         row %= m_rows.count();
-        const int height = m_rows.height(row);
-        const CRect rect(0, bottom, view.cx, bottom + height);
-        bottom += height;
-        rowsWithoutProgress = height > 0 ? 0 : rowsWithoutProgress + 1;
+        const CRect rect = rectBelow(bottom, row, view.cx);
+        bottom = rect.bottom;
+        rowsWithoutProgress = bottom > lowest ? 0 : rowsWithoutProgress + 1;
+        lowest = std::max(lowest, bottom);
         if (meetsView(rect, view.cy)) {
             m_repaint.addDrawnRow(m_rows.data(row));
             heightChanged = drawRow(dc, row, rect) || heightChanged;
@@ -235,7 +250,7 @@ bool TableList::drawNormal(CDC& dc, CSize view, int scrollPosition, const std::s
     if (!first) {
         return false;
     }
-    const int contentBottom = bottom - scrollPosition;
+    const int contentBottom = saturateToInt(std::int64_t{bottom} - scrollPosition);
     const std::uint64_t revision = m_rows.revision();
     bool heightChanged = false;
     bottom = first->top - scrollPosition;
@@ -245,7 +260,7 @@ bool TableList::drawNormal(CDC& dc, CSize view, int scrollPosition, const std::s
             bottom = contentBottom;
             break;
         }
-        const CRect rect(0, bottom, view.cx, bottom + m_rows.height(row));
+        const CRect rect = rectBelow(bottom, row, view.cx);
         bottom = rect.bottom;
         if (!meetsView(rect, view.cy)) {
             continue;
@@ -261,13 +276,18 @@ bool TableList::drawNormal(CDC& dc, CSize view, int scrollPosition, const std::s
     return heightChanged;
 }
 
+CRect TableList::rectBelow(int top, int row, int width) const {
+    return CRect(0, top, width, saturateToInt(std::int64_t{top} + m_rows.height(row)));
+}
+
 bool TableList::drawRow(CDC& dc, int row, const CRect& rect) {
     const std::uint64_t data = m_rows.data(row);
+    const int stored = m_rows.height(row);
     const int height = m_handler->DrawItem(dc, row, rect);
     if (m_rows.data(row) != data) {
         return true; // the host has changed the rows while drawing: the answer is for a row that has gone elsewhere
     }
-    if (height == rect.Height()) {
+    if (height == stored) {
         return false;
     }
     m_rows.setHeight(row, height);

@@ -9,7 +9,7 @@
 void TableList::insertRow(std::uint64_t data, int row) {
     const int inserted = m_rows.insert(data, row);
     if (m_handler != nullptr) {
-        m_rows.setHeight(inserted, m_handler->ComputeItemHeight(inserted));
+        askHeight(inserted);
         m_handler->SetFindMode(0);
     }
     m_scrollDirty = true;
@@ -26,18 +26,22 @@ void TableList::insertRows(const std::vector<RowStore::Row>& rows, int row) {
 }
 
 void TableList::removeRows(const std::vector<std::uint64_t>& list) {
-    std::span<const std::uint64_t> rest(list);
-    while (!rest.empty()) {
-        rest = rest.subspan(m_rows.removeUntilMissing(rest));
-        m_scrollDirty = true;
-        if (!rest.empty()) {
-            // A removal that finds its row leaves find mode and the back buffer alone: only one that finds none ends
-            // both.
+    // The list is the host's and may change while the host is told: only the index outlives a call.
+    std::size_t next = 0;
+    while (next < list.size()) {
+        const auto [removed, missing] = m_rows.removeUntilMissing(std::span(list).subspan(next));
+        next += removed;
+        if (removed > 0) {
+            m_scrollDirty = true;
+        }
+        // A removal that finds its row leaves find mode and the back buffer alone: only one that finds none ends both.
+        const std::uint64_t revision = m_rows.revision();
+        for (std::size_t told = 0; told < missing && m_rows.revision() == revision; ++told) {
             if (m_handler != nullptr) {
                 m_handler->SetFindMode(0);
             }
             requestFullRedraw();
-            rest = rest.subspan(1);
+            ++next;
         }
     }
 }
@@ -54,7 +58,15 @@ void TableList::removeAllRows() {
 void TableList::updateAllHeights() {
     for (int row = 0; m_handler != nullptr && row < m_rows.count(); ++row) {
         m_handler->UpdateItemPosition(row);
-        m_rows.setHeight(row, m_handler->ComputeItemHeight(row));
+        askHeight(row);
     }
     m_scrollDirty = true;
+}
+
+void TableList::askHeight(int row) {
+    const std::uint64_t data = m_rows.data(row);
+    const int height = m_handler->ComputeItemHeight(row);
+    if (m_rows.data(row) == data) { // else the host has changed the rows, and the answer is for one that went elsewhere
+        m_rows.setHeight(row, height);
+    }
 }

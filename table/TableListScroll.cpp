@@ -2,11 +2,9 @@
 
 #include "TableList.h"
 
-#include <algorithm>
-#include <limits>
-
 #include <OrtinControls/ITableHandler.h>
 
+#include "Rounding.h"
 #include "ScopedFlag.h"
 
 namespace {
@@ -24,19 +22,15 @@ int TableList::clientHeight() const {
     return client.Height();
 }
 
-int TableList::clientWidth() const {
-    CRect client;
-    if (GetSafeHwnd() != nullptr) {
-        GetClientRect(&client);
-    }
-    return client.Width();
-}
-
 int TableList::rangeMaximum() const {
     int minimum = 0;
     int maximum = 0;
     GetScrollRange(SB_VERT, &minimum, &maximum);
     return maximum;
+}
+
+int TableList::contentY(int clientY) const {
+    return saturateToInt(std::int64_t{clientY} + GetScrollPos(SB_VERT));
 }
 
 int TableList::effectiveScrollPos() const {
@@ -49,6 +43,8 @@ void TableList::updateScroll() {
         return;
     }
     const ScopedFlag updating(m_updatingScroll);
+    // Cleared first: the host hears of the size change in between, and rows that it changes there count for the next.
+    m_scrollDirty = false;
     const int total = m_rows.totalHeight();
     const int view = clientHeight();
     if (total > view && !autoscrollIsOn()) {
@@ -59,7 +55,7 @@ void TableList::updateScroll() {
         content.cbSize = sizeof content;
         content.fMask = SIF_PAGE | SIF_RANGE;
         content.nPage = static_cast<UINT>(view + kBeyondContent);
-        content.nMax = std::min(total, std::numeric_limits<int>::max() - kBeyondContent) + kBeyondContent;
+        content.nMax = saturateToInt(std::int64_t{total} + kBeyondContent);
         SetScrollInfo(SB_VERT, &content, FALSE);
         if (bottomKeeper.enabled) {
             if (const std::optional<int> kept = bottomKeeper.update(position, view, total)) {
@@ -76,7 +72,6 @@ void TableList::updateScroll() {
         SetScrollInfo(SB_VERT, &none, TRUE);
         ShowScrollBar(SB_VERT, showScrollbar && vScrollAlwaysVisible);
     }
-    m_scrollDirty = false;
 }
 
 void TableList::scrollIntoView(int row) {

@@ -68,6 +68,12 @@ std::size_t WantedWords::firstMissing(std::span<const std::uint64_t> list) {
     return static_cast<std::size_t>(missing - list.begin());
 }
 
+std::size_t WantedWords::firstFound(std::span<const std::uint64_t> rest) {
+    const auto found =
+        std::find_if(rest.begin(), rest.end(), [this](std::uint64_t word) { return entryOf(word).taken > 0; });
+    return static_cast<std::size_t>(found - rest.begin());
+}
+
 std::size_t WantedWords::mayWant(std::uint64_t word) const {
     const std::size_t bit = filterBit(word, m_filter.size());
     return m_filter[bit / kBitsPerWord] >> (bit % kBitsPerWord) & 1;

@@ -18,6 +18,9 @@ public:
     std::vector<std::uint32_t> takeRows(const std::vector<Row>& rows);
     /// The index of the first entry that found no row, the length of the list if there is none. After `takeRows`.
     std::size_t firstMissing(std::span<const std::uint64_t> list);
+    /// The index of the first entry of `rest`, which begins where `firstMissing` ended, that has a row; else its
+    /// length.
+    std::size_t firstFound(std::span<const std::uint64_t> rest);
 
 private:
     struct Entry {

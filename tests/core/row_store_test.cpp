@@ -22,6 +22,13 @@ protected:
     }
 
     using Words = std::vector<RowStore::Data>;
+    /// Entries removed, entries missing behind them.
+    using Gone = std::pair<std::size_t, std::size_t>;
+
+    Gone remove(std::span<const RowStore::Data> list) {
+        const RowStore::Removal removal = store.removeUntilMissing(list);
+        return {removal.removed, removal.missing};
+    }
 
     RowStore store;
 };
@@ -149,9 +156,9 @@ TEST_F(StoredRows, TheSumOfHugeHeightsSaturates) {
 TEST_F(StoredRows, RemovingAListStopsAtTheFirstWordWithoutARow) {
     fill({{1, 1}, {2, 2}, {3, 3}, {2, 4}});
     const Words list{2, 3, 9, 1, 2};
-    ASSERT_EQ(2U, store.removeUntilMissing(list));
+    EXPECT_EQ((Gone{2, 1}), remove(list));
     EXPECT_EQ((Words{1, 2}), words());
-    EXPECT_EQ(2U, store.removeUntilMissing(std::span(list).subspan(3)));
+    EXPECT_EQ((Gone{2, 0}), remove(std::span(list).subspan(3)));
     EXPECT_EQ(0, store.count());
     EXPECT_EQ(0, store.totalHeight());
 }
@@ -159,14 +166,42 @@ TEST_F(StoredRows, RemovingAListStopsAtTheFirstWordWithoutARow) {
 TEST_F(StoredRows, AWordListedMoreOftenThanItHasRowsIsMissingTheLastTime) {
     fill({{5, 1}, {5, 1}, {6, 1}});
     const Words list{5, 5, 5, 6};
-    EXPECT_EQ(2U, store.removeUntilMissing(list));
+    EXPECT_EQ((Gone{2, 1}), remove(list));
     EXPECT_EQ((Words{6}), words());
+}
+
+TEST_F(StoredRows, RemovingAListTellsHowManyWordsInARowAreMissing) {
+    struct Case {
+        const char* what;
+        Words list;
+        Gone gone;
+        Words left;
+    };
+    const Case cases[] = {
+        {"all of them", {7, 8, 9}, {0, 3}, {1, 2, 3}},
+        {"those up to the next that is there", {1, 7, 8, 3, 9}, {1, 2}, {2, 3}},
+        {"to the end of the list", {3, 1, 7, 7, 7}, {2, 3}, {2}},
+        {"a word that was there once", {2, 2, 2, 1}, {1, 2}, {1, 3}},
+        {"a single one", {9}, {0, 1}, {1, 2, 3}},
+    };
+    for (const Case& c : cases) {
+        fill({{1, 1}, {2, 2}, {3, 3}});
+        EXPECT_EQ(c.gone, remove(c.list)) << c.what;
+        EXPECT_EQ(c.left, words()) << c.what;
+    }
+}
+
+TEST_F(StoredRows, AListOfWhichNothingIsThereChangesNothing) {
+    fill({{1, 1}});
+    const std::uint64_t before = store.revision();
+    EXPECT_EQ((Gone{0, 2}), remove(Words{8, 9}));
+    EXPECT_EQ(before, store.revision());
 }
 
 TEST_F(StoredRows, RemovingAnEmptyListDoesNothing) {
     fill({{5, 1}});
     const Words list;
-    EXPECT_EQ(0U, store.removeUntilMissing(list));
+    EXPECT_EQ((Gone{0, 0}), remove(list));
     EXPECT_EQ(1, store.count());
 }
 
