@@ -179,7 +179,10 @@ BOOL TableCtrl::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* re
 }
 
 void TableCtrl::NotifyTableViewDataChange() {
-    ::PostMessageW(m_hWnd, Sm_tableViewDataChangedMessage, 0, 0);
+    // Without a window the system would post to the calling thread.
+    if (const HWND window = m_hWnd) {
+        ::PostMessageW(window, Sm_tableViewDataChangedMessage, 0, 0);
+    }
 }
 
 BOOL TableCtrl::PreTranslateMessage(MSG* message) {

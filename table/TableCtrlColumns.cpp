@@ -120,7 +120,7 @@ int TableCtrl::AddColumn(const wchar_t* title, ITableView::EColumnAddType type) 
         const int last = static_cast<int>(order.size());
         switch (type) {
         case AddAfterSelected:
-            position = selected ? std::optional(std::clamp(*selected + 1, 0, last)) : std::nullopt;
+            position = selected ? std::optional(std::clamp(*selected, -1, last - 1) + 1) : std::nullopt;
             break;
         case AddAtSelected:
             position = selected ? std::optional(std::clamp(*selected, 0, last)) : std::nullopt;
@@ -282,7 +282,7 @@ int TableCtrl::GetMinWidth() {
 
 int TableCtrl::GetMinWidthVisibleColumns() {
     const int columns = AreColumnsLocked() ? m_state->columns.minWidth() : GetVisibleColumnCount() * kMinColumnWidth;
-    return columns + (IsVScrollVisible() ? ::GetSystemMetrics(SM_CXVSCROLL) : 0);
+    return saturateToInt(std::int64_t{columns} + (IsVScrollVisible() ? ::GetSystemMetrics(SM_CXVSCROLL) : 0));
 }
 
 int TableCtrl::TrackColumnWidthChange(int id, int width, bool end) {

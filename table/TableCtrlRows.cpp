@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "Rounding.h"
 #include "TableCtrlState.h"
 
 int TableCtrl::GetItemCount() const {
@@ -91,6 +92,7 @@ void TableCtrl::InsertItems(const std::vector<std::pair<unsigned __int64, int>>&
     }
     TableList& list = m_state->list;
     const int selected = GetSelectedItem();
+    const int count = static_cast<int>(items.size());
     const int firstInserted = list.rows().contains(row) ? row : list.rows().count();
     list.insertRows(items, firstInserted);
     if (m_state->updating) {
@@ -99,11 +101,11 @@ void TableCtrl::InsertItems(const std::vector<std::pair<unsigned __int64, int>>&
     if (scrollDelta > 0 && list.GetSafeHwnd() != nullptr) {
         const int position = list.GetScrollPos(SB_VERT);
         if (position > 0 && list.rows().totalHeight() > list.clientHeight()) {
-            list.SetScrollPos(SB_VERT, scrollDelta + position, TRUE);
+            list.SetScrollPos(SB_VERT, saturateToInt(std::int64_t{position} + scrollDelta), TRUE);
         }
     }
     if (selected >= firstInserted && m_state->handler != nullptr) {
-        m_state->handler->SetSelectedItem(selected + static_cast<int>(items.size()), true);
+        m_state->handler->SetSelectedItem(selected + count, true);
     }
     UpdateMinWidth();
     if (GetSafeHwnd() != nullptr) {
@@ -191,7 +193,7 @@ int TableCtrl::ItemFromCursor(CPoint& cell) {
     CPoint point;
     ::GetCursorPos(&point);
     list.ScreenToClient(&point);
-    const int y = point.y + list.GetScrollPos(SB_VERT);
+    const int y = list.contentY(point.y);
     const std::optional<RowSpan> span = list.rows().rowAt(y);
     if (!span) {
         return -1;

@@ -76,12 +76,14 @@ void TableCtrl::Sort() {
 void TableCtrl::OnHdnItemclick(NMHDR* notification, LRESULT* result) {
     *result = 0;
     ITableHandler* const handler = m_state->handler;
-    if (handler == nullptr) {
+    const int id = reinterpret_cast<const NMHEADERW*>(notification)->iItem;
+    // A press on an item that is released beside all items comes without one.
+    if (handler == nullptr || id < 0 || id >= m_state->header.itemCount()) {
         return;
     }
     TableList& list = m_state->list;
     const int row = handler->GetSelectedPosition().y;
-    const int position = GetColumnIdxFromId(reinterpret_cast<const NMHEADERW*>(notification)->iItem);
+    const int position = GetColumnIdxFromId(id);
     handler->SelectPosition(position, row);
     if (m_state->sortOnHeaderClick) {
         const bool descending = m_state->headerSortDescending;

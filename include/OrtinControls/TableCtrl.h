@@ -179,9 +179,8 @@ private:
     bool createChildren();
     void createHeaderFont();
     void refreshOrderIfDirty() const;
-    /// What follows a change of columns in locked mode: the owner is told the new content width.
+    /// What follows a change of columns: a refit, and in locked mode the owner is told the new content width.
     void addedOrRemovedColumns();
-    void closeRowRemoval(int caretRow);
     void keepSelectionOffHiddenColumns();
 
     std::unique_ptr<TableCtrlState> m_state;
