@@ -15,6 +15,6 @@ public:
     virtual void setItemWidth(int id, int width) = 0;
     /// The ids by display position.
     virtual std::vector<int> itemOrder() const = 0;
-    /// An order that does not list each item once is refused by the header.
+    /// An order that lists fewer or more ids than there are items is refused by the header.
     virtual void setItemOrder(const std::vector<int>& order) = 0;
 };

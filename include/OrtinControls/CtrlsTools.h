@@ -13,7 +13,7 @@ ORTIN_CONTROLS_API void ShowWindow(CWnd* parent, int id, int show);
 /// False without a parent or a child.
 ORTIN_CONTROLS_API bool IsWindowVisible(CWnd* parent, int id);
 ORTIN_CONTROLS_API void SetWindowTextW(CWnd* parent, int id, CString text);
-/// Moves the child so that its centre, rounded down, lies at `centerX` of the parent's client area.
+/// Moves the child so that its centre, in whole pixels, lies at `centerX` of the parent's client area.
 ORTIN_CONTROLS_API void MoveCenterXControl(CWnd* parent, int id, int centerX);
 /// `rect` is in the coordinates of the window's parent. Gives the result of `CWnd::SetWindowPos`, 0 for a null `wnd`.
 ORTIN_CONTROLS_API int SetWindowPos(CWnd* wnd, CWnd const* after, CRect const& rect, unsigned int flags);
@@ -26,7 +26,7 @@ ORTIN_CONTROLS_API bool IsWindowModal(HWND const wnd);
 ORTIN_CONTROLS_API CRect GetWindowRectangle(CWnd const* const wnd, CWnd const* const relativeTo);
 /// Despite its name the window rectangle in screen coordinates: hosts rely on it.
 ORTIN_CONTROLS_API CRect GetClientRectangle(CWnd const* const wnd);
-/// True if `child` is `parent` or lies in it at any depth.
+/// True if `child` is `parent`, or lies in it or is owned by it at any depth.
 ORTIN_CONTROLS_API bool IsDescendant(HWND const parent, HWND child);
 /// Forces a new calculation of the non-client area.
 ORTIN_CONTROLS_API void RecalculateCtrlArea(CWnd* const wnd);

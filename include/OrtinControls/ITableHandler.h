@@ -46,7 +46,9 @@ public:
     virtual int GetSelectedItem() const = 0;
     /// The anchor row of a range selection.
     virtual int GetSelectedItemStart() const;
+    /// End of a width change, also of one that was refused; end of a sizing loop; after saved widths were restored.
     virtual void OnColumnWidthChanged();
+    /// A step of a width change, also one that was refused.
     virtual void OnColumnWidthChanging(int id, int width);
     /// At each paint, after the back buffer is ready and before the row heights are summed.
     virtual void PrepareDraw() = 0;
@@ -56,6 +58,7 @@ public:
     virtual int ComputeItemHeight(int row) = 0;
     /// Where the control moves the selection; -1 means none. `followsRowChange` is true after inserts and deletes.
     virtual void SetSelectedItem(int row, bool followsRowChange) = 0;
+    /// Where the control moves the selected column. `row` is -1 after the removal of a column.
     virtual void SelectPosition(int column, int row);
     virtual CPoint GetSelectedPosition();
     virtual CPoint GetSelectedPositionStart();
@@ -65,6 +68,7 @@ public:
     /// The host decides here whether to repaint. After each mouse move over the body and from `InvalidateView`.
     virtual void RefreshView() = 0;
     virtual void SetListCtrl(CWnd* list);
+    /// The control only ends find mode: `mode` is always 0.
     virtual void SetFindMode(int mode);
     virtual bool IsFindMode() const;
     virtual void CancelFindMode();

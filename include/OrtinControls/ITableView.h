@@ -56,11 +56,11 @@ public:
     virtual unsigned __int64 GetItemData(int row) const = 0;
     virtual int GetItemCount() const = 0;
 
-    /// The handler's caret row, -1 for none. Needs a handler.
+    /// The handler's caret row, -1 for none and without a handler.
     virtual int GetSelectedItem() const = 0;
     /// Tells the handler to select `row` and scrolls it into view; `redraw` invalidates the body.
     virtual void SelectItem(int row, bool redraw) = 0;
-    /// The handler's anchor row, -1 for none. Needs a handler.
+    /// The handler's anchor row, -1 for none and without a handler.
     virtual int GetSelectedItemStart() const = 0;
 
     /// Gives the display position that the new column got; 0 for a type outside `EColumnAddType`.
@@ -68,6 +68,7 @@ public:
     /// Replaces all columns by pairs of title and width. A width of 0 or less declares a hidden column with the real
     /// width `fabs(width)`. Nothing is refitted: the caller follows with `UpdateColumns`.
     virtual void SetColumns(const std::vector<std::pair<std::wstring, double>>& columns) = 0;
+    /// Locked columns take any width, else a refused width changes nothing. `redraw` repaints at once.
     virtual void SetColumnWidth(int id, int width, bool redraw) = 0;
     /// Refits the columns to the window, in the way of the current mode.
     virtual void UpdateColumns() = 0;
@@ -77,6 +78,7 @@ public:
     /// True: pixel widths stay and only the last visible column follows the window. False: all keep their proportions.
     virtual void LockColumns(bool lock) = 0;
     virtual bool AreColumnsLocked() const = 0;
+    /// The ids behind `id` move down by one; the handler's selected column goes one to the left. Ignored past the end.
     virtual void RemoveColumn(unsigned int id) = 0;
 
     /// Appends a row. The first row of a table becomes selected.
@@ -102,6 +104,7 @@ public:
     virtual void InvalidateView(unsigned __int64 data) = 0;
     /// Scrolls the row into view.
     virtual void SetCarretIndex(int row) = 0;
+    /// Ignored if one of the positions is out of range.
     virtual void SwitchColumnOrder(int positionA, int positionB, int newSelectedColumn) = 0;
     /// Asks the handler for the height of each row again.
     virtual void UpdateAllHeights() = 0;
@@ -124,6 +127,7 @@ public:
     virtual void MoveElementAt(unsigned __int64 data, int row) = 0;
     /// Moves the first row with `data` to `row`. Its height reads 0 until the host sets it. Does not repaint.
     virtual void MoveElement(unsigned __int64 data, int row) = 0;
+    /// Hiding keeps the real width and moves the handler's selected column off hidden ones. Ignored out of range.
     virtual void ShowColumn(int id, bool show) = 0;
     /// The stored wish, not the bar's actual state.
     virtual bool ShowScrollbar() const = 0;

@@ -31,11 +31,13 @@ public:
     /// Ignored for an index of 62 or more.
     static void UpdateColor(unsigned int index, unsigned long color);
 
+    /// "#rrggbb" of the backstage in the current theme, with `alt` its other shade. The text lives as the library does.
     static const wchar_t* GetBackstageColorString(bool alt);
     /// The theme that Windows uses for applications, empty if it does not say. The current theme does not change.
     static std::optional<EThemeColor> GetWindowsThemeSetting();
     /// "#RRGGBB" in upper case, of a COLORREF.
     static std::wstring GetMarkupColor(unsigned long color);
+    /// Always true.
     static bool Validate();
 
 private:
