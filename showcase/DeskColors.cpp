@@ -2,6 +2,8 @@
 
 #include <OrtinControls/SystemColors.h>
 
+#include <cmath>
+
 namespace Desk::Colors {
 
 namespace {
@@ -128,7 +130,7 @@ COLORREF fallen() {
 }
 
 COLORREF blend(COLORREF base, COLORREF over, double share) {
-    const auto mixed = [share](int from, int to) { return static_cast<BYTE>(from + (to - from) * share + 0.5); };
+    const auto mixed = [share](int from, int to) { return static_cast<BYTE>(std::lround(from + (to - from) * share)); };
     return RGB(mixed(GetRValue(base), GetRValue(over)), mixed(GetGValue(base), GetGValue(over)),
                mixed(GetBValue(base), GetBValue(over)));
 }

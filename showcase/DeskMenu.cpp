@@ -36,8 +36,7 @@ UINT DeskMenu::choose(CWnd& owner, CPoint screen, const std::vector<MenuLine>& l
     ::SetMenuInfo(menu, &info);
 
     m_lines = &lines;
-    const BOOL chosen =
-        menu.TrackPopupMenu(TPM_RETURNCMD | TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON, screen.x, screen.y, &owner);
+    const BOOL chosen = menu.TrackPopupMenu(TPM_RETURNCMD | TPM_RIGHTBUTTON, screen.x, screen.y, &owner);
     m_lines = nullptr;
     return static_cast<UINT>(chosen);
 }

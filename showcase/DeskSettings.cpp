@@ -26,7 +26,7 @@ std::wstring defaultSettingsFile() {
 
 ParameterStatus loadSettings(const std::wstring& file, DeskSettings& settings) {
     Settings loaded;
-    const ParameterStatus status = loaded.LoadFromFile(file);
+    ParameterStatus status = loaded.LoadFromFile(file);
     if (!status.IsSuccess())
         return status.GetCode() == Settings::FileNotFound ? ParameterStatus() : status;
 

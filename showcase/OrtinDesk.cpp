@@ -1,25 +1,16 @@
+#include <algorithm>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include <afxwin.h>
-// GDI+ names COM's types.
-#include <objidl.h>
-
-#include <algorithm>
-#include <filesystem>
-
-namespace Gdiplus {
-using std::max;
-using std::min;
-} // namespace Gdiplus
-#include <gdiplus.h>
-
 #include <OrtinFoundation/StringTools.h>
+#include <afxwin.h>
 #include <shellapi.h>
 
 #include "DeskSettings.h"
 #include "DeskWindow.h"
+#include "GdiPlus.h"
 #include "Scenes.h"
 #include "StandardStreams.h"
 #include "core/CommandLine.h"
@@ -191,6 +182,6 @@ Desk::DeskApp theDesk;
 
 } // namespace
 
-int WINAPI wWinMain(HINSTANCE instance, HINSTANCE previous, LPWSTR commandLine, int show) {
-    return AfxWinMain(instance, previous, commandLine, show);
+int WINAPI wWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPWSTR lpCmdLine, int nShowCmd) {
+    return AfxWinMain(hInstance, hPrevInstance, lpCmdLine, nShowCmd);
 }

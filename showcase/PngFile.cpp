@@ -1,15 +1,6 @@
 #include "PngFile.h"
 
-// GDI+ names COM's IStream and PROPID, and uses min and max by their plain names.
-#include <objidl.h>
-
-#include <algorithm>
-
-namespace Gdiplus {
-using std::max;
-using std::min;
-} // namespace Gdiplus
-#include <gdiplus.h>
+#include "GdiPlus.h"
 
 namespace Desk {
 

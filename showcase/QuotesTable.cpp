@@ -29,7 +29,7 @@ void drawSortArrow(CDC& dc, const CRect& area, bool down) {
 
 BEGIN_MESSAGE_MAP(QuotesTable, TableCtrl)
     ON_WM_CONTEXTMENU()
-    ON_NOTIFY(NM_CUSTOMDRAW, QuotesTable::HeaderId, OnHeaderCustomDraw)
+    ON_NOTIFY(NM_CUSTOMDRAW, QuotesTable::HeaderId, &QuotesTable::OnHeaderCustomDraw)
 END_MESSAGE_MAP()
 
 QuotesTable::QuotesTable(DeskFonts& fonts) : m_fonts(fonts) {

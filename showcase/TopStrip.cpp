@@ -75,9 +75,9 @@ BEGIN_MESSAGE_MAP(TopStrip, CWnd)
     ON_WM_MOUSELEAVE()
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONDBLCLK()
-    ON_EN_CHANGE(FindBoxId, OnPhraseChanged)
-    ON_EN_SETFOCUS(FindBoxId, OnFindFocusChanged)
-    ON_EN_KILLFOCUS(FindBoxId, OnFindFocusChanged)
+    ON_EN_CHANGE(FindBoxId, &TopStrip::OnPhraseChanged)
+    ON_EN_SETFOCUS(FindBoxId, &TopStrip::OnFindFocusChanged)
+    ON_EN_KILLFOCUS(FindBoxId, &TopStrip::OnFindFocusChanged)
 END_MESSAGE_MAP()
 
 TopStrip::TopStrip(DeskFonts& fonts, StripEvents& events) : m_fonts(fonts), m_events(events) {}

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <sstream>
 #include <thread>
 
 #include "core/ColumnLayout.h"
@@ -41,16 +42,15 @@ constexpr KnownColumn KnownColumns[] = {
 
 /// S00 to S59; each fifth one has no price-earnings ratio, the others go down from 60 by row.
 std::string knownInstruments() {
-    std::string csv = "Symbol,Name,Sector,Price,PriceEarnings,DividendYield,EarningsPerShare,Low52Weeks,High52Weeks,"
-                      "MarketCap\n";
+    std::ostringstream csv;
+    csv << "Symbol,Name,Sector,Price,PriceEarnings,DividendYield,EarningsPerShare,Low52Weeks,High52Weeks,MarketCap\n";
     for (int row = 0; row < 60; ++row) {
         const std::string number = (row < 10 ? "0" : "") + std::to_string(row);
-        const std::string earnings = row % 5 == 0 ? "" : std::to_string(60 - row);
-        csv += "S" + number + "," + (row % 7 == 3 ? "Żubr " : "Firma ") + number + ",Bardzo długa nazwa branży numer " +
-               number + "," + std::to_string(100 + row) + ".5," + earnings + ",0.02,3.5,50,200," +
-               std::to_string(1000000000LL * (row + 1)) + "\n";
+        csv << 'S' << number << (row % 7 == 3 ? ",Żubr " : ",Firma ") << number << ",Bardzo długa nazwa branży numer "
+            << number << ',' << 100 + row << ".5," << (row % 5 == 0 ? "" : std::to_string(60 - row))
+            << ",0.02,3.5,50,200," << 1000000000LL * (row + 1) << '\n';
     }
-    return csv;
+    return csv.str();
 }
 
 std::wstring quoted(const std::wstring& argument) {

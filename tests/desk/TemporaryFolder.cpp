@@ -17,7 +17,7 @@ TemporaryFolder::~TemporaryFolder() {
 }
 
 std::filesystem::path TemporaryFolder::write(std::wstring_view name, std::string_view bytes) const {
-    const std::filesystem::path path = file(name);
+    std::filesystem::path path = file(name);
     std::ofstream output(path, std::ios::binary);
     output.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     return path;

@@ -133,14 +133,13 @@ TEST(CsvReader, ReadsARecordOfTheGreatestLength) {
 }
 
 TEST(CsvReader, ReadsFieldsThatCrossTheChunksOfTheFile) {
-    std::string bytes;
-    std::string expected;
+    std::ostringstream bytes;
+    std::ostringstream expected;
     for (int record = 0; record < 20000; ++record) {
-        const std::string number = std::to_string(record);
-        bytes += number + ",\"x,\"\"" + number + "\"\n";
-        expected += (record == 0 ? "[" : "/[") + number + "][x,\"" + number + "]";
+        bytes << record << ",\"x,\"\"" << record << "\"\n";
+        expected << (record == 0 ? "[" : "/[") << record << "][x,\"" << record << ']';
     }
-    EXPECT_EQ(describe(bytes), expected);
+    EXPECT_EQ(describe(bytes.str()), expected.str());
 }
 
 TEST(InputError, SaysPlaceFaultAndAdviceInOneLine) {
