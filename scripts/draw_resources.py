@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Draws the pictures that the library carries as resources: the zoom and section icons and the column cursor.
+"""Draws the pictures that the programs carry as resources: zoom and section icons, the column cursor, the desk's icon.
 
-Run it without arguments from anywhere; it writes module/resources/*.png and columnmove.cur anew. It needs nothing but
-Python. Shapes are functions of a point in the unit square; each pixel is the mean of 16 by 16 samples of it.
+Run it without arguments from anywhere; it writes module/resources/*.png, columnmove.cur and OrtinDesk.ico anew. It needs
+nothing but Python. Shapes are functions of a point in the unit square; each pixel is the mean of 16 by 16 samples of it.
 """
 import math
 import struct
@@ -84,14 +84,43 @@ def column_cursor(path):
             black, alpha = ink[y][x], max(ink[y][x], rim[y][x])
             grey = 255 - black
             pixels += bytes((grey, grey, grey, alpha))
-    mask = b"\0" * (size * 4)
-    image = struct.pack("<IiiHHIIiiII", 40, size, size * 2, 1, 32, 0, len(pixels), 0, 0, 0, 0) + pixels + mask
+    image = device_image(size, pixels)
     entry = struct.pack("<BBBBHHII", size, size, 0, 0, 15, 15, len(image), 22)
     path.write_bytes(struct.pack("<HHH", 0, 2, 1) + entry + image)
 
 
+def device_image(size, pixels):
+    """The form that icons and cursors share: a header, pixels of 32 bits from the bottom row on, an empty mask."""
+    mask = b"\0" * ((size + 31) // 32 * 4 * size)
+    return struct.pack("<IiiHHIIiiII", 40, size, size * 2, 1, 32, 0, len(pixels), 0, 0, 0, 0) + pixels + mask
+
+
+def desk_icon(path):
+    """Three candles that rise, white on a tile of the accent."""
+    tile = union(*(segment(x, 0.18, x, 0.82, 0.32) for x in (0.18, 0.34, 0.5, 0.66, 0.82)))
+    candles = union(*(union(segment(x, top + 0.06, x, bottom - 0.06, 0.12), segment(x, top - 0.1, x, bottom + 0.1, 0.04))
+                      for x, top, bottom in ((0.26, 0.52, 0.76), (0.5, 0.38, 0.62), (0.74, 0.24, 0.48))))
+    images = []
+    for size in (16, 24, 32, 48):
+        ground, figure = coverage(tile, size), coverage(candles, size)
+        pixels = b""
+        for y in reversed(range(size)):
+            for x in range(size):
+                share = figure[y][x] / 255
+                red, green, blue = (round(ink + (255 - ink) * share) for ink in ACCENT)
+                pixels += bytes((blue, green, red, ground[y][x]))
+        images.append((size, device_image(size, pixels)))
+    place = 6 + 16 * len(images)
+    entries = b""
+    for size, image in images:
+        entries += struct.pack("<BBBBHHII", size, size, 0, 0, 1, 32, len(image), place)
+        place += len(image)
+    path.write_bytes(struct.pack("<HHH", 0, 1, len(images)) + entries + b"".join(image for _, image in images))
+
+
 def main():
-    folder = Path(__file__).resolve().parent.parent / "module" / "resources"
+    root = Path(__file__).resolve().parent.parent
+    folder = root / "module" / "resources"
     folder.mkdir(parents=True, exist_ok=True)
     png(folder / "3011.png", magnifier(plus=False), 16, ACCENT)
     png(folder / "3012.png", magnifier(plus=True), 16, ACCENT)
@@ -101,6 +130,7 @@ def main():
         for offset, size in enumerate((12, 16, 24, 32)):
             png(folder / f"{first + offset}.png", shape, size, ink)
     column_cursor(folder / "columnmove.cur")
+    desk_icon(root / "showcase" / "OrtinDesk.ico")
 
 
 if __name__ == "__main__":

@@ -14,6 +14,7 @@ namespace Desk {
 
 namespace {
 
+constexpr UINT IconId = 1;
 constexpr int StripId = 1;
 constexpr int TableId = 2;
 constexpr int ScrollBarId = 3;
@@ -91,9 +92,10 @@ DeskWindow::~DeskWindow() {
 BOOL DeskWindow::open() {
     CRect rect(0, 0, scaled(StartWidth), scaled(StartHeight));
     CalcWindowRect(&rect, WS_OVERLAPPEDWINDOW);
-    return CreateEx(0, AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW)), L"OrtinDesk – notowania",
-                    WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT, rect.Width(), rect.Height(),
-                    nullptr, nullptr);
+    return CreateEx(
+        0, AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW), nullptr, AfxGetApp()->LoadIcon(IconId)),
+        L"OrtinDesk – notowania", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT, rect.Width(),
+        rect.Height(), nullptr, nullptr);
 }
 
 BOOL DeskWindow::PreCreateWindow(CREATESTRUCT& create) {

@@ -107,6 +107,7 @@ void QuotesHandler::PrepareDraw() {
     CRect client;
     m_list->GetClientRect(&client);
     m_cells.clear();
+    m_drawnRows.clear();
     int left = 0;
     for (int position = 0; position < m_view->GetColumnCount(); ++position) {
         const int id = m_view->GetColumnId(position);
@@ -130,6 +131,7 @@ int QuotesHandler::DrawItem(CDC& dc, int row, const CRect& rect) {
     look.flash = m_flashes.levelOf(instrument);
     look.phrase = m_find.isActive() ? &m_find.phrase() : nullptr;
     m_painter.drawRow(dc, rect, instrument, m_cells, look);
+    m_drawnRows.push_back({row, rect.top});
     if (row == m_selection.caret())
         drawCaret(dc, rect);
     return m_painter.rowHeight();
@@ -146,7 +148,12 @@ void QuotesHandler::drawCaret(CDC& dc, const CRect& rowRect) {
                hasFocus ? Colors::accent() : Colors::mutedText());
 }
 
-void QuotesHandler::OnDrawFinished(CDC&) {
+void QuotesHandler::OnDrawFinished(CDC& dc) {
+    if (m_view->GetItemCount() == 0) {
+        CRect client;
+        m_list->GetClientRect(&client);
+        m_painter.drawEmptyList(dc, client);
+    }
     m_events.onViewPainted();
 }
 
@@ -255,6 +262,8 @@ void QuotesHandler::OnItemClick(int row, const CPoint& local, bool extend, unsig
         m_selectedColumnId =
             static_cast<int>(std::find(m_columns.begin(), m_columns.end(), column) - m_columns.begin());
     }
+    if (m_autoscroll)
+        row = rowUnder(rowRectangle(row).top + local.y);
     const bool control = (flags & MK_CONTROL) != 0;
     if ((flags & MK_RBUTTON) != 0) {
         // The menu is for all selected rows if the press was on one of them.
@@ -272,6 +281,14 @@ void QuotesHandler::OnItemClick(int row, const CPoint& local, bool extend, unsig
         m_selection.select(row);
     }
     selectionChanged();
+}
+
+/// While the rows run, the table's scroll position says nothing about where they are; what was drawn last does.
+int QuotesHandler::rowUnder(int y) const {
+    for (const DrawnRow& drawn : m_drawnRows)
+        if (y >= drawn.top && y < drawn.top + m_painter.rowHeight())
+            return drawn.row;
+    return m_selection.caret();
 }
 
 void QuotesHandler::SetSelectedItem(int row, bool) {

@@ -118,6 +118,12 @@ public:
     void TableHandlerReservedB() override {}
 
 private:
+    /// Where a row was drawn, in pixels of the view.
+    struct DrawnRow {
+        int row;
+        int top;
+    };
+
     static unsigned __int64 dataOf(std::size_t instrument) { return instrument + 1; }
     std::size_t instrumentAt(int row) const;
     std::optional<std::size_t> cellAt(int x) const;
@@ -129,6 +135,7 @@ private:
     void search(const std::wstring& phrase);
     void repaintInstrument(std::size_t instrument);
     void drawCaret(CDC& dc, const CRect& rowRect);
+    int rowUnder(int y) const;
 
     QuoteBook& m_book;
     DeskFonts& m_fonts;
@@ -140,6 +147,7 @@ private:
     CWnd* m_list = nullptr;
     std::vector<QuoteColumn> m_columns; ///< by id
     std::vector<CellSpan> m_cells;      ///< of the current paint, from the left
+    std::vector<DrawnRow> m_drawnRows;  ///< of the latest paint
     std::vector<int> m_rows;            ///< by instrument
 
     RowSelection m_selection;

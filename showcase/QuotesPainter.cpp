@@ -73,6 +73,14 @@ void QuotesPainter::drawRow(CDC& dc, const CRect& rect, std::size_t instrument, 
     }
 }
 
+void QuotesPainter::drawEmptyList(CDC& dc, const CRect& area) const {
+    CRect rect = area;
+    const ScopedSelection font(dc, m_fonts.text());
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(Colors::mutedText());
+    dc.DrawText(L"Brak instrumentów", -1, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+}
+
 void QuotesPainter::drawCell(CDC& dc, const CRect& rect, std::size_t instrument, QuoteColumn column,
                              const RowLook& look) const {
     if (column == QuoteColumn::Range52Weeks && placeInRange(m_book.at(instrument)))

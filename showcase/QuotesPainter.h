@@ -43,6 +43,8 @@ public:
 
     void drawRow(CDC& dc, const CRect& rect, std::size_t instrument, const std::vector<CellSpan>& cells,
                  const RowLook& look) const;
+    /// Says that there is nothing to show.
+    void drawEmptyList(CDC& dc, const CRect& area) const;
 
 private:
     void drawCell(CDC& dc, const CRect& rect, std::size_t instrument, QuoteColumn column, const RowLook& look) const;

@@ -45,6 +45,21 @@ TEST_F(LiveQuotes, WithoutTicksNothingChanges) {
     EXPECT_EQ(pixelsOf(body()), before);
 }
 
+TEST_F(LiveQuotes, AClickOnRunningRowsSelectsTheRowUnderIt) {
+    start();
+    const POINT autoscroll = onScreen(strip(), pixelsOf(strip()).width() - scaled(400), scaled(20));
+    support::click(autoscroll);
+    // At 20 pixels a second the first row has left the view by now.
+    support::pumpFor(std::chrono::seconds(3));
+    support::click(onScreen(body(), scaled(100), 2));
+    support::click(autoscroll);
+    support::chord({VK_CONTROL, 'F'});
+    support::typeKey(VK_ESCAPE);
+    const std::string symbol = copiedSymbols();
+    EXPECT_GT(symbol, "S00");
+    EXPECT_LT(symbol, "S07");
+}
+
 TEST_F(LiveQuotes, AutoscrollRunsTheRowsUntilItIsSwitchedOff) {
     start();
     // The switch stands third from the right; its knob is found by its track's place in the strip.
