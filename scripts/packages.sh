@@ -21,6 +21,7 @@ END
         wine)
             cat <<'END'
 wine64 /usr/lib/wine/wine64
+fonts-liberation /usr/share/fonts/truetype/liberation/LiberationSans-Regular.ttf
 fonts-wine /usr/share/wine/fonts/tahoma.ttf
 libxcomposite1 /usr/lib/x86_64-linux-gnu/libXcomposite.so.1
 libxcursor1 /usr/lib/x86_64-linux-gnu/libXcursor.so.1
