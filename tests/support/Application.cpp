@@ -5,9 +5,6 @@
 
 #include <commctrl.h>
 
-// gdiplus.h needs min and max, which NOMINMAX leaves out.
-using std::max;
-using std::min;
 #include <objidl.h>
 
 #include <gdiplus.h>

@@ -4,9 +4,6 @@
 #include <sstream>
 #include <stdexcept>
 
-// gdiplus.h needs min and max, which NOMINMAX leaves out.
-using std::max;
-using std::min;
 #include <objidl.h>
 
 #include <gdiplus.h>
@@ -147,8 +144,8 @@ std::optional<COLORREF> Pixels::onlyColour(const RECT& area) const {
         return std::nullopt;
     }
     const COLORREF colour = at(inside.left, inside.top);
-    const auto pixels = static_cast<std::size_t>((inside.right - inside.left) * (inside.bottom - inside.top));
-    return count(colour, inside) == pixels ? std::optional(colour) : std::nullopt;
+    const auto pixels = (inside.right - inside.left) * (inside.bottom - inside.top);
+    return count(colour, inside) == static_cast<std::size_t>(pixels) ? std::optional(colour) : std::nullopt;
 }
 
 std::optional<RECT> Pixels::boundsOf(COLORREF colour) const {

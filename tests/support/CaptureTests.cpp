@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <cstdlib>
 
-using std::max;
-using std::min;
 #include <objidl.h>
 
 #include <gdiplus.h>

@@ -42,10 +42,11 @@ void** findEntry(BYTE* base, std::string_view dll, std::string_view name) {
     return nullptr;
 }
 
-void* exchange(void** entry, void* value) {
+/// Gives what stood in the entry before; null when the table cannot be written.
+void* exchange(void** entry, void* value) noexcept {
     DWORD protection = 0;
     if (!::VirtualProtect(static_cast<void*>(entry), sizeof *entry, PAGE_READWRITE, &protection)) {
-        throw std::runtime_error("the import table cannot be written");
+        return nullptr;
     }
     void* previous = ::InterlockedExchangePointer(entry, value);
     ::VirtualProtect(static_cast<void*>(entry), sizeof *entry, protection, &protection);
@@ -55,12 +56,14 @@ void* exchange(void** entry, void* value) {
 } // namespace
 
 ImportPatch::ImportPatch(HMODULE module, std::string_view dll, std::string_view name, void* replacement)
-    : m_entry(findEntry(reinterpret_cast<BYTE*>(module ? module : ::GetModuleHandleW(nullptr)), dll, name)),
-      m_original(nullptr) {
+    : m_entry(findEntry(reinterpret_cast<BYTE*>(module ? module : ::GetModuleHandleW(nullptr)), dll, name)) {
     if (m_entry == nullptr) {
         throw std::runtime_error("the module does not import " + std::string(dll) + "!" + std::string(name));
     }
     m_original = exchange(m_entry, replacement);
+    if (m_original == nullptr) {
+        throw std::runtime_error("the import table cannot be written");
+    }
 }
 
 ImportPatch::~ImportPatch() {

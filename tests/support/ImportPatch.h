@@ -30,7 +30,7 @@ public:
 
 private:
     void** m_entry;
-    void* m_original;
+    void* m_original = nullptr;
 };
 
 } // namespace support
