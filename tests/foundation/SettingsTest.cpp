@@ -96,6 +96,14 @@ TEST(SettingsTree, RemovesAndClears) {
     EXPECT_EQ(Settings(), settings);
 }
 
+TEST(SettingsTree, MayBecomeAPartOfItself) {
+    Settings settings;
+    settings["a"]["b"] = L"1";
+    settings["c"] = L"2";
+    settings = std::move(settings["a"]);
+    EXPECT_EQ("b ", childrenOf(settings));
+}
+
 TEST(SettingsNumbers, ComeBackExactly) {
     Settings node;
     for (const int value : {0, 1, -1, INT_MAX, INT_MIN}) {
@@ -323,6 +331,15 @@ TEST_F(SettingsFile, ThatIsMalformedStaysAsItIs) {
     EXPECT_NE(std::wstring::npos, status.GetMessageText().find(path + L", wiersz 3"));
     EXPECT_EQ("OrtinSettings 1\n/a=1\nb=2\n", content());
     EXPECT_EQ(Settings(), settings);
+}
+
+TEST_F(SettingsFile, IsNotReplacedByOneThatNoLoadWouldAccept) {
+    const std::string good = "OrtinSettings 1\n/a=1\n";
+    write(good);
+    Settings settings;
+    settings["a"] = std::string("\xB3 in another code page");
+    EXPECT_EQ(Settings::FileNotWritable, settings.SaveToFile(path).GetCode());
+    EXPECT_EQ(good, content());
 }
 
 TEST_F(SettingsFile, ThatIsInUseIsNotTouched) {

@@ -29,10 +29,17 @@ Settings::Settings() = default;
 Settings::Settings(const Settings&) = default;
 Settings::Settings(Settings&&) noexcept = default;
 Settings::~Settings() = default;
-Settings& Settings::operator=(Settings&&) noexcept = default;
+
+Settings& Settings::operator=(Settings&& other) noexcept {
+    // `other` may be a part of this tree, and end with the children that are replaced.
+    Settings taken(std::move(other));
+    Version = taken.Version;
+    m_text.swap(taken.m_text);
+    m_children.swap(taken.m_children);
+    return *this;
+}
 
 Settings& Settings::operator=(const Settings& other) {
-    // `other` may be a part of this tree.
     return *this = Settings(other);
 }
 

@@ -39,10 +39,16 @@ bool writeAll(const std::wstring& path, const std::string& content) {
 } // namespace
 
 ParameterStatus Settings::SaveToFile(const std::wstring& path) const {
+    const std::string content = ToFileText();
+    // A good file is not replaced by one that no load would accept: text that is no UTF-8, a tree that is too deep.
+    Settings readBack;
+    if (const ParameterStatus readable = readBack.LoadFromFileText(content, path); !readable.IsSuccess()) {
+        return {FileNotWritable, readable.GetMessageText()};
+    }
     // Two programs, or two threads, that save at once must not write into one file.
     const std::wstring temporary =
         path + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(GetCurrentThreadId()) + L".tmp";
-    if (!writeAll(temporary, ToFileText()) ||
+    if (!writeAll(temporary, content) ||
         !MoveFileExW(temporary.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
         const DWORD error = GetLastError();
         DeleteFileW(temporary.c_str());

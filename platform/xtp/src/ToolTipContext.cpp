@@ -147,9 +147,14 @@ void CXTPToolTipContext::Hover::timeIsUp(UINT_PTR timer) {
     if (!isPointerOver(m_tool.window)) {
         leave();
     } else if (timer == waitTimer) {
-        showTip();
+        // A message of a timer that was stopped meanwhile may still come.
+        if (m_phase == Phase::Waiting) {
+            showTip();
+        }
     } else if (timer == showTimer) {
-        press();
+        if (isShown()) {
+            press();
+        }
     } else {
         m_window.SetTimer(watchTimer, S_watchInterval);
     }
