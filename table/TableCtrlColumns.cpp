@@ -107,6 +107,7 @@ int TableCtrl::AddColumn(const wchar_t* title, ITableView::EColumnAddType type) 
     const double width = columns.widthOfNewColumn();
     header.insertItem(index, title, truncateToInt(width));
     columns.append(width, true);
+    UpdateOrderArray(); // the host is asked next, and may look at the columns or leave by an exception
 
     std::optional<int> selected;
     if ((type == AddAfterSelected || type == AddAtSelected) && m_state->handler != nullptr) {
@@ -339,6 +340,9 @@ void TableCtrl::OnHdnTrack(NMHDR* notification, LRESULT* result) {
 void TableCtrl::OnHdnEndtrack(NMHDR* notification, LRESULT* result) {
     const auto* const header = reinterpret_cast<const NMHEADERW*>(notification);
     *result = header->pitem == nullptr ? 0 : TrackColumnWidthChange(header->iItem, header->pitem->cxy, true);
+    if (*result != 0) {
+        m_state->header.keepItemWidth(header->iItem);
+    }
 }
 
 void TableCtrl::OnHdnItemdblclick(NMHDR* notification, LRESULT* result) {
@@ -390,8 +394,13 @@ void TableCtrl::SwitchColumnOrder(int positionA, int positionB, int newSelectedC
     std::swap(order[static_cast<std::size_t>(positionA)], order[static_cast<std::size_t>(positionB)]);
     m_state->header.setItemOrder(order);
     if (m_state->handler != nullptr) {
-        m_state->handler->SelectPosition(newSelectedColumn, m_state->handler->GetSelectedPosition().y);
-        InvalidateView(0);
+        try {
+            m_state->handler->SelectPosition(newSelectedColumn, m_state->handler->GetSelectedPosition().y);
+            InvalidateView(0);
+        } catch (...) {
+            UpdateOrderArray();
+            throw;
+        }
     }
     UpdateOrderArray();
     UpdateColumnWidths(-1, 0);

@@ -1,6 +1,7 @@
 #include "TableHeaderCtrl.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <OrtinControls/SystemColors.h>
 
@@ -76,6 +77,12 @@ void TableHeaderCtrl::setItemText(int id, const wchar_t* title) {
     item.mask = HDI_TEXT;
     item.pszText = const_cast<wchar_t*>(title); // only read
     SetItem(id, &item);
+}
+
+void TableHeaderCtrl::keepItemWidth(int id) {
+    if (const std::optional<int> width = itemWidth(id)) {
+        m_keptWidth = {id, *width};
+    }
 }
 
 int TableHeaderCtrl::itemCount() const {
@@ -193,7 +200,11 @@ void TableHeaderCtrl::OnMouseMove(UINT flags, CPoint point) {
 }
 
 void TableHeaderCtrl::OnLButtonUp(UINT flags, CPoint point) {
+    m_keptWidth.reset();
     CHeaderCtrl::OnLButtonUp(flags, point);
+    if (const std::optional<KeptWidth> kept = std::exchange(m_keptWidth, std::nullopt)) {
+        setItemWidth(kept->id, kept->width);
+    }
     switch (m_drag.release()) {
     case HeaderDrag::Release::Click:
         notifyParent(HDN_ITEMCLICKW, hitTest(point).iItem, 0);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <afxcmn.h>
 
 #include "HeaderDrag.h"
@@ -19,6 +21,9 @@ public:
     void showSortArrow(int id, bool descending, bool show);
     void insertItem(int id, const wchar_t* title, int width);
     void setItemText(int id, const wchar_t* title);
+    /// The native control takes over the dragged width at the end, though the table has refused it: the item then gets
+    /// back the width that it has now.
+    void keepItemWidth(int id);
 
     /// While one lives, the header does not paint; it stays invalid and paints afterwards.
     class NoPaint {
@@ -55,6 +60,12 @@ private:
     LRESULT sendDragMessage(UINT message);
     void drawColumnInFlight(CDC& dc);
 
+    struct KeptWidth {
+        int id;
+        int width;
+    };
+
     HeaderDrag m_drag;
+    std::optional<KeptWidth> m_keptWidth;
     bool m_noPaint = false;
 };
