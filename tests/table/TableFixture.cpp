@@ -21,7 +21,7 @@ LRESULT ReachableTable::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     return TableCtrl::WindowProc(message, wParam, lParam);
 }
 
-TableFixture::TableFixture() {
+TableFixture::TableFixture(std::shared_ptr<Host> shared) : sharedHost(std::move(shared)), host(*sharedHost) {
     if (table.Create(kTableId, &host, false) == 0) {
         throw std::runtime_error("the table cannot be made");
     }

@@ -43,7 +43,10 @@ protected:
     static constexpr int kHeaderId = 11113;
     static constexpr int kWidth = 400;
 
-    TableFixture();
+    using Host = support::ScopedTopLevelWindow;
+
+    /// Many tables one after the other may live in one window.
+    explicit TableFixture(std::shared_ptr<Host> shared = std::make_shared<Host>(CSize(600, 500)));
     ~TableFixture() override;
 
     HWND body() const { return ::GetDlgItem(table.m_hWnd, kBodyId); }
@@ -93,7 +96,8 @@ protected:
     std::string arrowOf(int id) const;
     support::Pixels bodyPixels() const { return support::Pixels::ofClient(body()); }
 
-    support::ScopedTopLevelWindow host{CSize(600, 500)};
+    const std::shared_ptr<Host> sharedHost;
+    Host& host;
     RecordingHandler handler;
     ReachableTable table;
 };
