@@ -73,10 +73,13 @@ wake_wine_prefix() {
     exec {lock}>&-
 }
 
+# The prefix counts as made when its registry lies on the disk, which Wine does when its session ends: a machine that is
+# switched off a moment later must not leave half a prefix.
 make_wine_prefix() {
     without_display_lock "$wine_server" -p5
     without_display_lock "$wine_program" wineboot -i &&
-        without_display_lock "$wine_program" regedit /S "Z:${1//\//\\}\\settings.new"
+        without_display_lock "$wine_program" regedit /S "Z:${1//\//\\}\\settings.new" &&
+        "$wine_server" -k
 }
 
 start_wine_session() {
