@@ -49,6 +49,18 @@ TEST(Keyboard, TellsTheModifiersApart) {
     EXPECT_FALSE(Keyboard::IsCtrlPressed()) << "toggled is not pressed";
 }
 
+/// The display's own clipboard looks at what is new in the system's one and holds it for a moment.
+bool openFreeClipboard(HWND owner) {
+    const ULONGLONG end = GetTickCount64() + 2000;
+    while (!OpenClipboard(owner)) {
+        if (GetTickCount64() > end) {
+            return false;
+        }
+        Sleep(1);
+    }
+    return true;
+}
+
 class ClipboardText : public testing::Test {
 protected:
     ClipboardText()
@@ -70,7 +82,7 @@ TEST_F(ClipboardText, ComesBackAsItWasSet) {
 }
 
 TEST_F(ClipboardText, IsNoneWhenTheClipboardHoldsNone) {
-    ASSERT_TRUE(OpenClipboard(owner));
+    ASSERT_TRUE(openFreeClipboard(owner));
     EmptyClipboard();
     CloseClipboard();
     EXPECT_EQ(std::nullopt, Clipboard::GetClipboardString(owner));
@@ -80,7 +92,7 @@ TEST_F(ClipboardText, WithoutATerminatorEndsWithItsMemory) {
     HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, 4 * sizeof(wchar_t));
     wmemset(static_cast<wchar_t*>(GlobalLock(memory)), L'x', 4);
     GlobalUnlock(memory);
-    ASSERT_TRUE(OpenClipboard(owner));
+    ASSERT_TRUE(openFreeClipboard(owner));
     EmptyClipboard();
     SetClipboardData(CF_UNICODETEXT, memory);
     CloseClipboard();
@@ -96,7 +108,7 @@ class ForeignHold {
 public:
     explicit ForeignHold(DWORD milliseconds)
         : m_thread([this, milliseconds] {
-              m_isHeld = OpenClipboard(nullptr) != FALSE;
+              m_isHeld = openFreeClipboard(nullptr);
               m_isReady = true;
               Sleep(milliseconds);
               CloseClipboard();
