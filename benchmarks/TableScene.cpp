@@ -64,11 +64,7 @@ Table::Table(int rows) : m_window(CSize(kWidth, kHeight + 100)) {
         throw std::runtime_error("the table cannot be created");
     }
     table.SetTableHandler(&host);
-    std::vector<std::pair<std::wstring, double>> columns;
-    for (int column = 0; column < kColumns; ++column) {
-        columns.emplace_back(L"Kolumna", kColumnWidth);
-    }
-    table.SetColumns(columns);
+    table.SetColumns(std::vector<std::pair<std::wstring, double>>(kColumns, {L"Kolumna", kColumnWidth}));
     table.MoveWindow(0, 0, kWidth, kHeight + table.GetHeaderHeight());
     table.MoveWindow(0, 0, kWidth, kHeight + table.GetHeaderHeight());
     fill(rows);
@@ -95,7 +91,7 @@ void Table::repaint() {
 }
 
 ListView::ListView(int rows, bool stored) : m_window(CSize(kWidth, kHeight + 100)) {
-    m_window.onMessage = [this](UINT message, WPARAM, LPARAM lParam) -> std::optional<LRESULT> {
+    m_window.onMessage = [](UINT message, WPARAM, LPARAM lParam) -> std::optional<LRESULT> {
         const auto* const header = reinterpret_cast<const NMHDR*>(lParam);
         if (message == WM_NOTIFY && header->code == LVN_GETDISPINFOW) {
             LVITEMW& item = reinterpret_cast<NMLVDISPINFOW*>(lParam)->item;
