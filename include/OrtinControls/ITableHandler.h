@@ -9,7 +9,7 @@
 #include <afxwin.h>
 
 class ITableView;
-struct PrintInfo;
+class PrintInfo;
 
 /// The host's half of a table: it owns the content, the selection, the drawing, the comparing and the searching.
 ///

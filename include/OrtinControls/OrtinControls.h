@@ -2,8 +2,12 @@
 
 #include <OrtinControls/CtrlsTools.h>
 #include <OrtinControls/IContextMenuBase.h>
+#include <OrtinControls/IPrintable.h>
 #include <OrtinControls/ITableHandler.h>
 #include <OrtinControls/ITableView.h>
+#include <OrtinControls/PrintDialogContext.h>
+#include <OrtinControls/PrintInfo.h>
+#include <OrtinControls/PrintInfoEx.h>
 #include <OrtinControls/SystemColors.h>
 #include <OrtinControls/TableCtrl.h>
 #include <OrtinControls/TooltipTools.h>

@@ -1,0 +1,3 @@
+#include <OrtinControls/IPrintable.h>
+
+IPrintable::~IPrintable() = default;
