@@ -95,6 +95,15 @@ std::size_t QuotesHandler::instrumentAt(int row) const {
     return static_cast<std::size_t>(m_view->GetItemData(row) - 1);
 }
 
+/// From the first selected row to the last.
+std::vector<std::size_t> QuotesHandler::selectedInstruments() const {
+    std::vector<std::size_t> instruments;
+    for (const RowRange& range : m_selection.ranges())
+        for (int row = range.first; row < range.end; ++row)
+            instruments.push_back(instrumentAt(row));
+    return instruments;
+}
+
 void QuotesHandler::noteRows() {
     m_rows.assign(m_book.size(), -1);
     for (int row = 0; row < m_view->GetItemCount(); ++row)

@@ -128,6 +128,7 @@ private:
     std::size_t instrumentAt(int row) const;
     std::optional<std::size_t> cellAt(int x) const;
     std::vector<QuoteColumn> visibleColumns() const;
+    std::vector<std::size_t> selectedInstruments() const;
     void noteRows();
     void stepColumn(int direction);
     void selectionChanged();

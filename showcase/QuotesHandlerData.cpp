@@ -72,12 +72,10 @@ bool QuotesHandler::CopySelectionToClipboard(bool onlyCaretColumn) {
     const std::vector<QuoteColumn> columns =
         onlyCaretColumn ? std::vector{columnOf(m_selectedColumnId)} : visibleColumns();
     TabSeparatedText table;
-    for (const RowRange& range : m_selection.ranges()) {
-        for (int row = range.first; row < range.end; ++row) {
-            for (const QuoteColumn column : columns)
-                table.addCell(m_book.text(instrumentAt(row), column));
-            table.endRow();
-        }
+    for (const std::size_t instrument : selectedInstruments()) {
+        for (const QuoteColumn column : columns)
+            table.addCell(m_book.text(instrument, column));
+        table.endRow();
     }
     return !table.text().empty() && OrtinTools::Clipboard::SetClipboardString(m_list->GetSafeHwnd(), table.text());
 }
@@ -93,7 +91,16 @@ void QuotesHandler::OnSortByColumn(int column) {
     m_view->UpdateSortDirection(id != m_sortedColumnId || !m_view->IsSortAsc());
     m_sortedColumnId = id;
     m_view->SetSortRowColumnId(0, id);
+
+    // The table takes the caret along with its instrument, and that alone.
+    const std::vector<std::size_t> selected = selectedInstruments();
     m_view->Sort();
+    std::vector<int> rows;
+    rows.reserve(selected.size());
+    for (const std::size_t instrument : selected)
+        rows.push_back(m_rows[instrument]);
+    m_selection.selectRows(std::move(rows), m_selection.caret());
+    selectionChanged();
     m_view->SetCarretIndex(m_selection.caret());
 }
 

@@ -8,7 +8,8 @@
 namespace Desk {
 
 /// Where in an input file something is wrong. Lines and columns count from 1; 0 means that the place has none.
-/// A column is the ordinal number of the field, not of the character.
+/// A column is the ordinal number of the field, not of the character; what is missing is told at the column where it
+/// should begin.
 struct InputPlace {
     std::string file;
     std::size_t line = 0;

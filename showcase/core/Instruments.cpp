@@ -1,5 +1,6 @@
 #include "Instruments.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -54,7 +55,7 @@ public:
 
     Instrument parse(const CsvRecord& record) {
         if (record.fields.size() != m_fieldCount)
-            throw InputError({m_fileName, record.line, 0},
+            throw InputError({m_fileName, record.line, std::min(record.fields.size(), m_fieldCount) + 1},
                              "pól jest " + std::to_string(record.fields.size()) + ", a w nagłówku " +
                                  std::to_string(m_fieldCount),
                              "uzupełnij wiersz albo ujmij pola z przecinkami w cudzysłów");
@@ -80,7 +81,8 @@ private:
             place = field;
         }
         if (!place)
-            throw InputError({m_fileName, header.line, 0}, "brak kolumny " + quotedForMessage(title),
+            throw InputError({m_fileName, header.line, header.fields.size() + 1},
+                             "brak kolumny " + quotedForMessage(title),
                              "dopisz ją do nagłówka");
         return *place;
     }
@@ -135,7 +137,7 @@ std::vector<Instrument> readInstruments(std::istream& input, const std::string& 
     CsvReader reader(input, fileName);
     const CsvRecord* header = reader.next();
     if (!header)
-        throw InputError({fileName, 1, 0}, "plik jest pusty", "zacznij go od nagłówka z nazwami kolumn");
+        throw InputError({fileName, 1, 1}, "plik jest pusty", "zacznij go od nagłówka z nazwami kolumn");
     InstrumentParser parser(*header, fileName);
     std::vector<Instrument> instruments;
     while (const CsvRecord* record = reader.next())

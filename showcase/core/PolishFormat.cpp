@@ -1,5 +1,6 @@
 #include "PolishFormat.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -10,6 +11,23 @@ namespace Desk {
 namespace {
 
 constexpr wchar_t NoBreakSpace = L'\u00A0';
+constexpr int LeastDecimals = 2;
+constexpr int MostDecimals = 10;
+
+struct SumUnit {
+    double size;
+    int decimals;
+    /// A sum that takes more of them once it is rounded goes to the next unit.
+    std::size_t mostWholeDigits;
+    const wchar_t* name;
+};
+
+constexpr SumUnit GreatestUnit{1e12, 2, 0, L"bln"};
+constexpr std::array SmallerUnits{
+    SumUnit{1.0, 0, 6, nullptr},
+    SumUnit{1e6, 2, 3, L"mln"},
+    SumUnit{1e9, 2, 3, L"mld"},
+};
 
 /// The decimal digits with a point, without an exponent.
 std::string plainDigits(double magnitude, int decimals) {
@@ -20,11 +38,15 @@ std::string plainDigits(double magnitude, int decimals) {
     return error == std::errc() ? std::string(digits.data(), end) : std::string();
 }
 
+std::size_t wholeDigits(const std::string& digits) {
+    return std::min(digits.find('.'), digits.size());
+}
+
 } // namespace
 
 std::wstring formatNumber(double value, int decimals) {
     const std::string digits = plainDigits(std::fabs(value), decimals);
-    const std::size_t whole = std::min(digits.find('.'), digits.size());
+    const std::size_t whole = wholeDigits(digits);
 
     std::wstring text;
     // What rounds to nothing has no sign.
@@ -43,17 +65,27 @@ std::wstring formatNumber(double value, int decimals) {
     return text;
 }
 
+std::wstring formatFigure(double value) {
+    const std::string digits = plainDigits(std::fabs(value), MostDecimals);
+    const std::size_t first = digits.find_first_not_of("0.");
+    const std::size_t point = wholeDigits(digits);
+    if (first == std::string::npos || first < point)
+        return formatNumber(value, LeastDecimals);
+    return formatNumber(value, std::clamp(static_cast<int>(first - point) + 1, LeastDecimals, MostDecimals));
+}
+
 std::wstring formatPercent(double fraction) {
     return formatNumber(fraction * 100.0, 2) + L'%';
 }
 
 std::wstring formatLargeSum(double value) {
-    const double magnitude = std::fabs(value);
-    if (magnitude >= 1e9)
-        return formatNumber(value / 1e9, 2) + NoBreakSpace + L"mld";
-    if (magnitude >= 1e6)
-        return formatNumber(value / 1e6, 2) + NoBreakSpace + L"mln";
-    return formatNumber(value, 0);
+    const auto holds = [value](const SumUnit& unit) {
+        return wholeDigits(plainDigits(std::fabs(value) / unit.size, unit.decimals)) <= unit.mostWholeDigits;
+    };
+    const auto smaller = std::find_if(SmallerUnits.begin(), SmallerUnits.end(), holds);
+    const SumUnit& unit = smaller != SmallerUnits.end() ? *smaller : GreatestUnit;
+    const std::wstring number = formatNumber(value / unit.size, unit.decimals);
+    return unit.name ? number + NoBreakSpace + unit.name : number;
 }
 
 std::wstring formatCount(long long count, const wchar_t* one, const wchar_t* few, const wchar_t* many) {

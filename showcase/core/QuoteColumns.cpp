@@ -16,14 +16,14 @@ constexpr bool isIndexedByColumn() {
 }
 static_assert(isIndexedByColumn());
 
-std::wstring twoDecimals(std::optional<double> value) {
-    return value ? formatNumber(*value, 2) : std::wstring();
+std::wstring figure(std::optional<double> value) {
+    return value ? formatFigure(*value) : std::wstring();
 }
 
 std::wstring rangeText(const Instrument& instrument) {
     if (!instrument.low52Weeks || !instrument.high52Weeks)
         return {};
-    return twoDecimals(instrument.low52Weeks) + L" – " + twoDecimals(instrument.high52Weeks);
+    return figure(instrument.low52Weeks) + L" – " + figure(instrument.high52Weeks);
 }
 
 } // namespace
@@ -69,7 +69,7 @@ std::wstring figureText(QuoteColumn column, const Instrument& instrument) {
     case QuoteColumn::Range52Weeks:
         return rangeText(instrument);
     default:
-        return twoDecimals(figureOf(column, instrument));
+        return figure(figureOf(column, instrument));
     }
 }
 

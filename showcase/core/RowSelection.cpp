@@ -113,6 +113,19 @@ void RowSelection::extendKeepingTo(int row) {
         m_caret = row;
 }
 
+void RowSelection::selectRows(std::vector<int> rows, int caret) {
+    std::sort(rows.begin(), rows.end());
+    m_kept.clear();
+    for (const int row : rows) {
+        if (!m_kept.empty() && m_kept.back().end == row)
+            ++m_kept.back().end;
+        else
+            m_kept.push_back({row, row + 1});
+    }
+    m_activeIsSelected = std::binary_search(rows.begin(), rows.end(), caret);
+    m_caret = m_anchor = std::max(caret, -1);
+}
+
 void RowSelection::selectAll(int rowCount) {
     m_kept.clear();
     if (rowCount > 0)

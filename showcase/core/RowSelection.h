@@ -37,6 +37,8 @@ public:
     void toggle(int row);
     /// As `extendTo`, but keeps the rows selected before the anchor was set.
     void extendKeepingTo(int row);
+    /// These rows, in any order, with a caret that may stand outside of them.
+    void selectRows(std::vector<int> rows, int caret);
     /// All rows; the caret stays where it is.
     void selectAll(int rowCount);
     /// The caret's row alone.

@@ -42,8 +42,9 @@ TEST_P(BadInstruments, EndWithCode2OneLineAndNothingWritten) {
 
 INSTANTIATE_TEST_SUITE_P(
     BadInput, BadInstruments,
-    testing::Values(FileCase{"empty", "", ", wiersz 1: plik jest pusty"},
-                    FileCase{"missingColumn", "Symbol,Name\nA,B\n", ", wiersz 1: brak kolumny „Sector”"},
+    testing::Values(FileCase{"empty", "", ", wiersz 1, kolumna 1: plik jest pusty"},
+                    FileCase{"missingColumn", "Symbol,Name\nA,B\n", ", wiersz 1, kolumna 3: brak kolumny „Sector”"},
+                    FileCase{"missingField", Header + "A,b,c,1,2,3,4,5,6\n", ", wiersz 2, kolumna 10: pól jest 9"},
                     FileCase{"malformedNumber", Header + "A,b,c,1,2,3,4,5,6,7\nB,b,c,1,x,3,4,5,6,7\n",
                              ", wiersz 3, kolumna 5: „x” nie jest liczbą"},
                     FileCase{"nulByte", Header + std::string("A,b\0", 4), ", wiersz 2, kolumna 2: bajt zerowy"},

@@ -70,6 +70,33 @@ TEST_F(RowsByMouseAndKeys, EndAndHomeGoToTheLastAndTheFirstRow) {
     EXPECT_EQ(copiedSymbols(), "S00");
 }
 
+TEST_F(RowsByMouseAndKeys, ASortKeepsTheSelectedInstrumentsSelectedAndTheCaretOnItsOwn) {
+    constexpr std::size_t PriceEarnings = 4;
+    start();
+    support::click(cell(3, 1));
+    clickWith(VK_SHIFT, cell(6, 1));
+    // Each fifth one has no ratio and comes last; the others turn round.
+    support::click(title(PriceEarnings));
+    settle();
+    EXPECT_EQ(copiedSymbols(), "S06 S04 S03 S05");
+    support::click(title(PriceEarnings));
+    settle();
+    EXPECT_EQ(copiedSymbols(), "S03 S04 S06 S05");
+    support::typeKey(VK_DOWN);
+    EXPECT_EQ(copiedSymbols(), "S07");
+}
+
+TEST_F(RowsByMouseAndKeys, ASortKeepsARowTurnedOffWithTheCaretOnIt) {
+    constexpr std::size_t PriceEarnings = 4;
+    start();
+    support::click(cell(1, 1));
+    clickWith(VK_SHIFT, cell(3, 1));
+    clickWith(VK_CONTROL, cell(2, 1));
+    support::click(title(PriceEarnings));
+    settle();
+    EXPECT_EQ(copiedSymbols(), "S03 S01");
+}
+
 TEST_F(RowsByMouseAndKeys, CtrlACopiesEveryRow) {
     start();
     support::click(cell(1, 1));

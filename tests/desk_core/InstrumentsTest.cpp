@@ -80,9 +80,9 @@ TEST_P(InstrumentsFault, IsToldWithPlaceFaultAndAdvice) {
 INSTANTIATE_TEST_SUITE_P(
     Instruments, InstrumentsFault,
     testing::Values(
-        FaultCase{"empty", "", "q.csv, wiersz 1: plik jest pusty; zacznij go od nagłówka z nazwami kolumn"},
+        FaultCase{"empty", "", "q.csv, wiersz 1, kolumna 1: plik jest pusty; zacznij go od nagłówka z nazwami kolumn"},
         FaultCase{"missingColumn", "Symbol,Name,Price\nX,n,1\n",
-                  "q.csv, wiersz 1: brak kolumny „Sector”; dopisz ją do nagłówka"},
+                  "q.csv, wiersz 1, kolumna 4: brak kolumny „Sector”; dopisz ją do nagłówka"},
         FaultCase{"columnTwice", "Symbol,Name,Name,Sector\n",
                   "q.csv, wiersz 1, kolumna 3: kolumna „Name” występuje drugi raz; zostaw jedną kolumnę o tej nazwie"},
         FaultCase{"malformedNumber", Header + "X,n,s,1,2,3,4,5,6,7\nY,n,s,12a,2,3,4,5,6,7\n",
@@ -98,10 +98,10 @@ INSTANTIATE_TEST_SUITE_P(
                   "q.csv, wiersz 2, kolumna 4: „1e999” nie jest liczbą; wpisz liczbę z kropką dziesiętną albo zostaw "
                   "pole puste"},
         FaultCase{"tooFewFields", Header + "X,n,s\n",
-                  "q.csv, wiersz 2: pól jest 3, a w nagłówku 10; uzupełnij wiersz albo ujmij pola z przecinkami w "
+                  "q.csv, wiersz 2, kolumna 4: pól jest 3, a w nagłówku 10; uzupełnij wiersz albo ujmij pola z przecinkami w "
                   "cudzysłów"},
         FaultCase{"tooManyFields", Header + "X,n,s,1,2,3,4,5,6,7,8\n",
-                  "q.csv, wiersz 2: pól jest 11, a w nagłówku 10; uzupełnij wiersz albo ujmij pola z przecinkami w "
+                  "q.csv, wiersz 2, kolumna 11: pól jest 11, a w nagłówku 10; uzupełnij wiersz albo ujmij pola z przecinkami w "
                   "cudzysłów"},
         FaultCase{"noSymbol", Header + ",n,s,1,2,3,4,5,6,7\n",
                   "q.csv, wiersz 2, kolumna 1: brak symbolu; wpisz symbol instrumentu"},

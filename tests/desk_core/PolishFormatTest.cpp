@@ -45,11 +45,37 @@ TEST(PolishFormat, WritesFractionsAsPercent) {
 }
 
 TEST(PolishFormat, ShortensLargeSums) {
-    EXPECT_EQ(formatLargeSum(4514709504000.0), L"4\u00A0514,71\u00A0mld");
+    EXPECT_EQ(formatLargeSum(4514709504000.0), L"4,51\u00A0bln");
+    EXPECT_EQ(formatLargeSum(4514709504000000.0), L"4\u00A0514,71\u00A0bln");
     EXPECT_EQ(formatLargeSum(1e9), L"1,00\u00A0mld");
     EXPECT_EQ(formatLargeSum(4616249.0), L"4,62\u00A0mln");
     EXPECT_EQ(formatLargeSum(-2e6), L"-2,00\u00A0mln");
     EXPECT_EQ(formatLargeSum(999999.0), L"999\u00A0999");
+    EXPECT_EQ(formatLargeSum(0.0), L"0");
+}
+
+TEST(PolishFormat, ChoosesTheUnitOfALargeSumAfterRounding) {
+    EXPECT_EQ(formatLargeSum(999999.4), L"999\u00A0999");
+    EXPECT_EQ(formatLargeSum(999999.6), L"1,00\u00A0mln");
+    EXPECT_EQ(formatLargeSum(999994000.0), L"999,99\u00A0mln");
+    EXPECT_EQ(formatLargeSum(999999999.0), L"1,00\u00A0mld");
+    EXPECT_EQ(formatLargeSum(-999999999.0), L"-1,00\u00A0mld");
+    EXPECT_EQ(formatLargeSum(999994000000.0), L"999,99\u00A0mld");
+    EXPECT_EQ(formatLargeSum(999999999999.0), L"1,00\u00A0bln");
+}
+
+TEST(PolishFormat, GivesSmallFiguresTheDigitsThatTellThemFromNothing) {
+    EXPECT_EQ(formatFigure(0.0), L"0,00");
+    EXPECT_EQ(formatFigure(0.004), L"0,0040");
+    EXPECT_EQ(formatFigure(-0.00123), L"-0,0012");
+    EXPECT_EQ(formatFigure(0.0000004567), L"0,00000046");
+    EXPECT_EQ(formatFigure(0.0000000001), L"0,0000000001");
+    EXPECT_EQ(formatFigure(1e-30), L"0,00");
+    EXPECT_EQ(formatFigure(0.012), L"0,012");
+    EXPECT_EQ(formatFigure(0.1), L"0,10");
+    EXPECT_EQ(formatFigure(0.999), L"1,00");
+    EXPECT_EQ(formatFigure(1.001), L"1,00");
+    EXPECT_EQ(formatFigure(12.345), L"12,35");
 }
 
 TEST(PolishFormat, ChoosesTheFormOfAWordByItsCount) {

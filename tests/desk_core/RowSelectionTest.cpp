@@ -125,6 +125,29 @@ TEST(RowSelection, SelectingAllKeepsTheCaret) {
     EXPECT_EQ(describe(selection), "2 caret 2");
 }
 
+TEST(RowSelection, TakesScatteredRowsInAnyOrderAndGrowsFromTheCaret) {
+    RowSelection selection;
+    selection.select(1);
+    selection.selectRows({7, 2, 3, 9}, 3);
+    EXPECT_EQ(describe(selection), "2-3 7 9 caret 3");
+    EXPECT_EQ(selection.anchor(), 3);
+    selection.extendKeepingTo(5);
+    EXPECT_EQ(describe(selection), "2-5 7 9 caret 5");
+    selection.extendTo(4);
+    EXPECT_EQ(describe(selection), "3-4 caret 4");
+}
+
+TEST(RowSelection, TheCaretMayStandOutsideOfTheTakenRows) {
+    RowSelection selection;
+    selection.selectRows({4, 6}, 5);
+    EXPECT_EQ(describe(selection), "4 6 caret 5");
+    selection.selectRows({}, 5);
+    EXPECT_EQ(describe(selection), "caret 5");
+    EXPECT_EQ(selection.count(), 0);
+    selection.selectRows({}, -1);
+    EXPECT_EQ(describe(selection), "caret -1");
+}
+
 TEST(RowSelection, AgreesWithASetOfRowsAfterRandomOperations) {
     std::mt19937 random(17);
     const auto row = [&] { return static_cast<int>(random() % 40); };
