@@ -82,8 +82,7 @@ private:
         }
         if (!place)
             throw InputError({m_fileName, header.line, header.fields.size() + 1},
-                             "brak kolumny " + quotedForMessage(title),
-                             "dopisz ją do nagłówka");
+                             "brak kolumny " + quotedForMessage(title), "dopisz ją do nagłówka");
         return *place;
     }
 

@@ -97,11 +97,13 @@ INSTANTIATE_TEST_SUITE_P(
         FaultCase{"overflow", Header + "X,n,s,1e999,2,3,4,5,6,7\n",
                   "q.csv, wiersz 2, kolumna 4: „1e999” nie jest liczbą; wpisz liczbę z kropką dziesiętną albo zostaw "
                   "pole puste"},
-        FaultCase{"tooFewFields", Header + "X,n,s\n",
-                  "q.csv, wiersz 2, kolumna 4: pól jest 3, a w nagłówku 10; uzupełnij wiersz albo ujmij pola z przecinkami w "
-                  "cudzysłów"},
+        FaultCase{
+            "tooFewFields", Header + "X,n,s\n",
+            "q.csv, wiersz 2, kolumna 4: pól jest 3, a w nagłówku 10; uzupełnij wiersz albo ujmij pola z przecinkami w "
+            "cudzysłów"},
         FaultCase{"tooManyFields", Header + "X,n,s,1,2,3,4,5,6,7,8\n",
-                  "q.csv, wiersz 2, kolumna 11: pól jest 11, a w nagłówku 10; uzupełnij wiersz albo ujmij pola z przecinkami w "
+                  "q.csv, wiersz 2, kolumna 11: pól jest 11, a w nagłówku 10; uzupełnij wiersz albo ujmij pola z "
+                  "przecinkami w "
                   "cudzysłów"},
         FaultCase{"noSymbol", Header + ",n,s,1,2,3,4,5,6,7\n",
                   "q.csv, wiersz 2, kolumna 1: brak symbolu; wpisz symbol instrumentu"},
