@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <stdexcept>
 
-#include "Rounding.h"
+#include "../graphics/Rounding.h"
 
 namespace {
 

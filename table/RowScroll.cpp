@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "Rounding.h"
+#include "../graphics/Rounding.h"
 
 namespace RowScroll {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "Rounding.h"
+#include "../graphics/Rounding.h"
 #include "WantedWords.h"
 
 int RowStore::totalHeight() const {

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <string>
 
-#include "Rounding.h"
+#include "../graphics/Rounding.h"
 #include "TableCtrlState.h"
 #include "TableMessages.h"
 

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "Rounding.h"
+#include "../graphics/Rounding.h"
 #include "TableCtrlState.h"
 
 int TableCtrl::GetItemCount() const {

@@ -8,7 +8,7 @@
 #include <OrtinControls/ITableView.h>
 #include <OrtinFoundation/Keyboard.h>
 
-#include "Rounding.h"
+#include "../graphics/Rounding.h"
 #include "TableMessages.h"
 
 namespace {

@@ -10,8 +10,8 @@
 #include <OrtinControls/SystemColors.h>
 #include <OrtinFoundation/DeletableDC.h>
 
+#include "../graphics/Rounding.h"
 #include "FirstProcessor.h"
-#include "Rounding.h"
 #include "ScopedFlag.h"
 #include "SelectedObject.h"
 

@@ -4,7 +4,7 @@
 
 #include <OrtinControls/ITableHandler.h>
 
-#include "Rounding.h"
+#include "../graphics/Rounding.h"
 #include "ScopedFlag.h"
 
 namespace {
