@@ -1,6 +1,7 @@
 #pragma once
 
 #include <OrtinControls/CtrlsTools.h>
+#include <OrtinControls/FontsObjManager.h>
 #include <OrtinControls/GraphicsHelper.h>
 #include <OrtinControls/IContextMenuBase.h>
 #include <OrtinControls/IPrintable.h>
