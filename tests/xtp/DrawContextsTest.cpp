@@ -67,6 +67,18 @@ TEST_F(DrawContexts, APenIsSelectedForALifetime) {
     EXPECT_EQ(before, liveGdiHandles());
 }
 
+TEST_F(DrawContexts, ABitmapIsSelectedForALifetime) {
+    CBitmap bitmap;
+    bitmap.CreateBitmap(3, 3, 1, 32, nullptr);
+    const HGDIOBJ previous = ::GetCurrentObject(target, OBJ_BITMAP);
+    {
+        const CXTPBitmapDC selected(&target, &bitmap);
+        EXPECT_EQ(bitmap.GetSafeHandle(), ::GetCurrentObject(target, OBJ_BITMAP));
+    }
+    EXPECT_EQ(previous, ::GetCurrentObject(target, OBJ_BITMAP));
+    EXPECT_TRUE(bitmap.DeleteObject());
+}
+
 class BufferedWindow : public CWnd {
 public:
     BufferedWindow() {

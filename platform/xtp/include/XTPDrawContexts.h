@@ -49,3 +49,16 @@ private:
     CPen m_pen;
     HGDIOBJ m_previousPen;
 };
+
+/// A bitmap that is selected into a memory context for as long as the object lives. Both outlive it.
+class ORTIN_XTP_API CXTPBitmapDC {
+public:
+    CXTPBitmapDC(CDC* pDC, CBitmap* pBitmap);
+    ~CXTPBitmapDC();
+    CXTPBitmapDC(const CXTPBitmapDC&) = delete;
+    CXTPBitmapDC& operator=(const CXTPBitmapDC&) = delete;
+
+private:
+    HDC m_context;
+    HGDIOBJ m_previousBitmap;
+};

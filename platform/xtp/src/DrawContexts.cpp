@@ -53,3 +53,11 @@ CXTPPenDC::CXTPPenDC(HDC hDC, COLORREF crColor, int nPenStyle, int nWidth)
 CXTPPenDC::~CXTPPenDC() {
     ::SelectObject(m_context, m_previousPen);
 }
+
+CXTPBitmapDC::CXTPBitmapDC(CDC* pDC, CBitmap* pBitmap)
+    : m_context(pDC->GetSafeHdc()),
+      m_previousBitmap(::SelectObject(m_context, *pBitmap)) {}
+
+CXTPBitmapDC::~CXTPBitmapDC() {
+    ::SelectObject(m_context, m_previousBitmap);
+}
