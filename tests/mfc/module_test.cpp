@@ -103,6 +103,27 @@ TEST_F(Modules, StringsComeFromTheModuleThatHasThem) {
     EXPECT_STREQ(L"w drugim", string);
 }
 
+TEST_F(Modules, AStringIsFoundInWhicheverModuleHasItThoughAllHaveItsBlockOfSixteen) {
+    const struct {
+        UINT id;
+        const wchar_t* expected;
+    } cases[] = {
+        {4000, L"w drugim"}, {4001, L"w pierwszym"}, {4002, L"w programie"}, {4003, L"w drugim, nie w pierwszym"},
+        {4004, L""},
+    };
+    for (const auto& each : cases) {
+        wchar_t text[40] = L"przedtem";
+        EXPECT_EQ(static_cast<int>(std::wcslen(each.expected)), AfxLoadString(each.id, text, 40)) << each.id;
+        EXPECT_STREQ(each.expected, text);
+        CString string(L"przedtem");
+        EXPECT_EQ(*each.expected != L'\0', string.LoadString(each.id) != FALSE) << each.id;
+        EXPECT_STREQ(each.expected, string);
+        CStringA narrow;
+        narrow.LoadString(each.id);
+        EXPECT_EQ(string.GetLength(), narrow.GetLength()) << each.id;
+    }
+}
+
 TEST_F(Modules, AMessageBoxTakesItsTextFromTheResources) {
     TestApplication::get().log.take();
     EXPECT_EQ(IDOK, AfxMessageBox(4000U));

@@ -31,7 +31,8 @@ ORTIN_MFC_API void AfxSetResourceHandle(HINSTANCE hInstResource);
 /// module, the one registered last first. If none has it, the answer is AfxGetResourceHandle().
 ORTIN_MFC_API HINSTANCE AfxFindResourceHandle(LPCWSTR lpszName, LPCWSTR lpszType);
 
-/// Copies string nIDS into lpszBuf (room for nMaxBuf characters, always ended); the length, 0 if there is none.
+/// Copies string nIDS of the first module that has it into lpszBuf (room for nMaxBuf characters, always ended); the
+/// length, 0 if there is none. Modules that share a block of sixteen strings complete each other.
 ORTIN_MFC_API int AfxLoadString(UINT nIDS, LPWSTR lpszBuf, UINT nMaxBuf = 256);
 
 /// Fills the record of a library from its process attach; false for a null handle.

@@ -20,7 +20,8 @@
 template <typename CharT>
 struct CStringPlatform;
 
-/// The text resource `id` of the module that AfxFindResourceHandle names; false and an empty text if there is none.
+/// The text resource `id` of the first module that has it, in the order of AfxFindResourceHandle; false and an empty
+/// text if none has.
 ORTIN_MFC_API BOOL OrtinLoadStringResource(UINT id, std::wstring& text);
 ORTIN_MFC_API BOOL OrtinLoadStringResource(UINT id, std::string& text);
 
@@ -42,12 +43,12 @@ struct CStringPlatform<wchar_t> {
         MultiByteToWideChar(CP_ACP, 0, text.data(), count, converted.data(), static_cast<int>(converted.size()));
         return converted;
     }
-    static int load(HINSTANCE module, UINT id, std::wstring& text) {
-        const wchar_t* resource = nullptr;
+    /// Of one module; empty if it has none. Lives as long as the module is loaded.
+    static std::wstring_view resource(HINSTANCE module, UINT id) {
+        const wchar_t* text = nullptr;
         // A zero capacity makes LoadStringW give the address of the text, which has no terminator.
-        const int length = ::LoadStringW(module, id, reinterpret_cast<LPWSTR>(&resource), 0);
-        text.assign(length > 0 ? resource : L"", static_cast<size_t>(std::max(length, 0)));
-        return length;
+        const int length = ::LoadStringW(module, id, reinterpret_cast<LPWSTR>(&text), 0);
+        return length > 0 ? std::wstring_view(text, static_cast<size_t>(length)) : std::wstring_view();
     }
 };
 
@@ -71,11 +72,8 @@ struct CStringPlatform<char> {
                             nullptr, nullptr);
         return converted;
     }
-    static int load(HINSTANCE module, UINT id, std::string& text) {
-        std::wstring wide;
-        const int length = CStringPlatform<wchar_t>::load(module, id, wide);
-        text = convert(wide);
-        return length;
+    static std::string resource(HINSTANCE module, UINT id) {
+        return convert(CStringPlatform<wchar_t>::resource(module, id));
     }
 };
 
@@ -362,9 +360,12 @@ public:
         m_text = std::move(formatted);
     }
 
-    /// Loads the text resource `id` from the module that AfxFindResourceHandle names; false and empty if none has it.
+    /// Loads the text resource `id` from the first module that has it; false and empty if none has.
     BOOL LoadString(UINT id) { return OrtinLoadStringResource(id, m_text); }
-    BOOL LoadString(HINSTANCE module, UINT id) { return CStringPlatform<CharT>::load(module, id, m_text) > 0; }
+    BOOL LoadString(HINSTANCE module, UINT id) {
+        m_text = CStringPlatform<CharT>::resource(module, id);
+        return !m_text.empty();
+    }
 
 private:
     static constexpr CharT S_empty[1] = {};

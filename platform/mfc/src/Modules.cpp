@@ -55,6 +55,22 @@ LibraryList& libraries() {
 
 HMODULE S_frameworkModule = nullptr;
 
+/// The first module of the search that has what is wanted; null if none has.
+template <class Has>
+HMODULE firstModule(Has has) {
+    for (HMODULE module : {AfxGetResourceHandle(), AfxGetInstanceHandle()}) {
+        if (has(module)) {
+            return module;
+        }
+    }
+    for (HMODULE module : libraries().resourceModules()) {
+        if (has(module)) {
+            return module;
+        }
+    }
+    return has(S_frameworkModule) ? S_frameworkModule : nullptr;
+}
+
 } // namespace
 
 void rememberFrameworkModule(HMODULE module) {
@@ -84,28 +100,26 @@ void AfxSetResourceHandle(HINSTANCE hInstResource) {
 }
 
 HINSTANCE AfxFindResourceHandle(LPCWSTR lpszName, LPCWSTR lpszType) {
-    const auto holds = [&](HMODULE module) { return FindResourceW(module, lpszName, lpszType) != nullptr; };
-    for (HMODULE module : {AfxGetResourceHandle(), AfxGetInstanceHandle()}) {
-        if (holds(module)) {
-            return module;
-        }
-    }
-    for (HMODULE module : libraries().resourceModules()) {
-        if (holds(module)) {
-            return module;
-        }
-    }
-    return holds(S_frameworkModule) ? S_frameworkModule : AfxGetResourceHandle();
+    HMODULE found = firstModule([&](HMODULE module) { return FindResourceW(module, lpszName, lpszType) != nullptr; });
+    return found != nullptr ? found : AfxGetResourceHandle();
+}
+
+std::wstring_view findText(UINT id) {
+    std::wstring_view found;
+    firstModule([&](HMODULE module) {
+        found = CStringPlatform<wchar_t>::resource(module, id);
+        return !found.empty();
+    });
+    return found;
 }
 
 int AfxLoadString(UINT nIDS, LPWSTR lpszBuf, UINT nMaxBuf) {
     if (lpszBuf == nullptr || nMaxBuf == 0) {
         return 0;
     }
-    lpszBuf[0] = L'\0';
-    // Strings lie in blocks of sixteen, which are numbered from 1.
-    HINSTANCE module = AfxFindResourceHandle(MAKEINTRESOURCEW((nIDS >> 4) + 1), RT_STRING);
-    return LoadStringW(module, nIDS, lpszBuf, static_cast<int>(nMaxBuf));
+    const std::size_t length = findText(nIDS).copy(lpszBuf, nMaxBuf - 1);
+    lpszBuf[length] = L'\0';
+    return static_cast<int>(length);
 }
 
 BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule) {
