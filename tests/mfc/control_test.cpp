@@ -143,6 +143,47 @@ TEST_F(Controls, AFieldKeepsSelectionTextAndUndo) {
     EXPECT_NE(0U, edit.GetStyle() & ES_READONLY);
 }
 
+TEST_F(Controls, MinusOneSelectsNothingOrToTheEndOfAField) {
+    CEdit edit;
+    ASSERT_TRUE(edit.Create(ES_AUTOHSCROLL, CRect(0, 0, 100, 20), &frame, 1));
+    edit.SetLimitText(200'000);
+    edit.SetWindowText(CString(L'x', 70'000));
+    const auto selected = [&] {
+        int start = 0;
+        int end = 0;
+        edit.GetSel(start, end);
+        return std::pair(start, end);
+    };
+    edit.SetSel(0, -1);
+    EXPECT_EQ(std::pair(0, 70'000), selected());
+    edit.SetSel(-1, 0);
+    EXPECT_EQ(selected().first, selected().second);
+    // The same in halves of a double word.
+    edit.SetSel(MAKELONG(0, -1));
+    EXPECT_EQ(std::pair(0, 70'000), selected());
+    edit.SetSel(static_cast<DWORD>(-1));
+    EXPECT_EQ(selected().first, selected().second);
+    edit.SetSel(MAKELONG(40'000, 50'000));
+    EXPECT_EQ(std::pair(40'000, 50'000), selected());
+}
+
+TEST_F(Controls, MinusOneSelectsNothingOrToTheEndOfAFieldWithAList) {
+    CComboBox box;
+    ASSERT_TRUE(box.Create(CBS_DROPDOWN | CBS_AUTOHSCROLL, CRect(0, 0, 100, 200), &frame, 1));
+    box.AddString(L"alfa");
+    box.SetWindowText(L"abcdef");
+    EXPECT_TRUE(box.SetEditSel(0, -1));
+    EXPECT_EQ(static_cast<DWORD>(MAKELONG(0, 6)), box.GetEditSel());
+    EXPECT_TRUE(box.SetEditSel(-1, -1));
+    EXPECT_EQ(LOWORD(box.GetEditSel()), HIWORD(box.GetEditSel()));
+    EXPECT_EQ(0, box.SetCurSel(0));
+    EXPECT_EQ(CB_ERR, box.SetCurSel(-1));
+    EXPECT_EQ(CB_ERR, box.GetCurSel());
+    CComboBox list;
+    ASSERT_TRUE(list.Create(CBS_DROPDOWNLIST, CRect(0, 0, 100, 200), &frame, 2));
+    EXPECT_EQ(CB_ERR, list.SetEditSel(0, -1)) << "it has no field";
+}
+
 TEST_F(Controls, AFieldOfSeveralLinesKnowsThem) {
     CEdit edit;
     ASSERT_TRUE(edit.Create(ES_MULTILINE, CRect(0, 0, 200, 100), &frame, 1));

@@ -60,6 +60,7 @@ public:
     /// First in the low word, end in the high one.
     DWORD GetSel() const;
     void GetSel(int& nStartChar, int& nEndChar) const;
+    /// A start of -1 selects nothing; an end of -1 is that of the text. The first form has both in a double word.
     void SetSel(DWORD dwSelection, BOOL bNoScroll = FALSE);
     void SetSel(int nStartChar, int nEndChar, BOOL bNoScroll = FALSE);
     void ReplaceSel(LPCTSTR lpszNewText, BOOL bCanUndo = FALSE);
@@ -132,6 +133,7 @@ public:
     int GetLBTextLen(int nIndex) const;
 
     DWORD GetEditSel() const;
+    /// As CEdit::SetSel; CB_ERR without a field.
     BOOL SetEditSel(int nStartChar, int nEndChar);
     BOOL LimitText(int nMaxChars);
     void Clear();

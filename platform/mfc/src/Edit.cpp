@@ -2,6 +2,15 @@
 
 IMPLEMENT_DYNAMIC(CEdit, CWnd)
 
+namespace {
+
+/// A place in the text from half of a double word, where 0xFFFF stands for -1.
+int placeOf(WORD half) {
+    return half == 0xFFFF ? -1 : half;
+}
+
+} // namespace
+
 BOOL CEdit::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
     return CWnd::Create(WC_EDIT, nullptr, dwStyle, rect, pParentWnd, nID);
 }
@@ -19,7 +28,7 @@ void CEdit::GetSel(int& nStartChar, int& nEndChar) const {
 }
 
 void CEdit::SetSel(DWORD dwSelection, BOOL bNoScroll) {
-    SetSel(LOWORD(dwSelection), HIWORD(dwSelection), bNoScroll);
+    SetSel(placeOf(LOWORD(dwSelection)), placeOf(HIWORD(dwSelection)), bNoScroll);
 }
 
 void CEdit::SetSel(int nStartChar, int nEndChar, BOOL bNoScroll) {
