@@ -74,10 +74,14 @@ int TableList::OnCreate(LPCREATESTRUCT createStruct) {
 }
 
 BOOL TableList::PreTranslateMessage(MSG* message) {
+    if (CWnd::PreTranslateMessage(message)) {
+        return TRUE;
+    }
     if (m_toolTip) {
+        // Last, for the host may delete this control when it is asked for a tip.
         m_toolTip->FilterToolTipMessage(this, message);
     }
-    return CWnd::PreTranslateMessage(message);
+    return FALSE;
 }
 
 INT_PTR TableList::OnToolHitTest(CPoint point, TOOLINFO* toolInfo) const {
@@ -87,12 +91,14 @@ INT_PTR TableList::OnToolHitTest(CPoint point, TOOLINFO* toolInfo) const {
     CRect rect(point.x, point.y, point.x + kToolTipHitSize, point.y + kToolTipHitSize);
     CString text;
     CWnd::OnToolHitTest(point, toolInfo);
+    const HWND window = m_hWnd;
+    // The host may delete this control in the call.
     const __int64 id = m_handler->GetToolTip(rect, text);
     if (id == -1 || text.IsEmpty()) {
         return -1;
     }
     if (toolInfo != nullptr) {
-        CXTPToolTipContext::FillInToolInfo(toolInfo, m_hWnd, rect, static_cast<INT_PTR>(id), text);
+        CXTPToolTipContext::FillInToolInfo(toolInfo, window, rect, static_cast<INT_PTR>(id), text);
     }
     return static_cast<INT_PTR>(id);
 }

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <functional>
 #include <map>
@@ -407,6 +408,56 @@ TEST_F(ToolTips, SurviveAWindowThatIsDestroyedWhenAsked) {
     EXPECT_TRUE(staysAway());
 }
 
+/// Deletes itself, and the context that it owns, when it is asked for a tool, and answers all the same.
+class MortalWindow : public CWnd {
+public:
+    explicit MortalWindow(bool& deleted) : m_deleted(deleted) {
+        CreateEx(0, nullptr, L"x", WS_POPUP, CRect(200, 200, 400, 300), nullptr, 0);
+    }
+    ~MortalWindow() override {
+        DestroyWindow();
+        m_deleted = true;
+    }
+
+    /// Leaves nothing that a look at the dead object could take for its state.
+    static void operator delete(void* memory, std::size_t size) {
+        std::fill_n(static_cast<volatile BYTE*>(memory), size, BYTE{0xDD});
+        ::operator delete(memory);
+    }
+
+    INT_PTR OnToolHitTest(CPoint, TOOLINFO* info) const override {
+        const HWND window = m_hWnd;
+        delete this;
+        CXTPToolTipContext::FillInToolInfo(info, window, CRect(0, 0, 50, 50), 3, L"Kurs");
+        return 3;
+    }
+
+    BOOL PreTranslateMessage(MSG* message) override {
+        m_context.FilterToolTipMessage(this, message);
+        return FALSE;
+    }
+
+private:
+    bool& m_deleted;
+    CXTPToolTipContext m_context;
+};
+
+TEST_F(ToolTips, SurviveAWindowThatIsDeletedWithItsContextWhenAsked) {
+    bool deleted = false;
+    MSG move{(new MortalWindow(deleted))->m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(20, 20), 0, {}};
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(nullptr, &move));
+    EXPECT_TRUE(deleted);
+}
+
+TEST_F(ToolTips, SurviveAWindowThatIsDeletedBesideTheirContext) {
+    bool deleted = false;
+    const CWnd& mortal = *new MortalWindow(deleted);
+    MSG move{mortal.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(20, 20), 0, {}};
+    window.context.FilterToolTipMessage(CWnd::FromHandlePermanent(mortal.m_hWnd), &move);
+    EXPECT_TRUE(deleted);
+    EXPECT_TRUE(staysAway());
+}
+
 TEST_F(ToolTips, IgnoreWhatIsNotTheirs) {
     MSG foreign{nullptr, WM_MOUSEMOVE, 0, MAKELPARAM(20, 20), 0, {}};
     window.onHitTest = [] { FAIL() << "asked for another window's message"; };
@@ -490,6 +541,13 @@ TEST(ToolInfo, IsFilledWithACopyOfTheText) {
     std::free(info.lpszText);
     CXTPToolTipContext::FillInToolInfo(&info, nullptr, CRect(), 0, CString());
     EXPECT_EQ(nullptr, info.lpszText);
+}
+
+TEST(ToolInfo, NamesNoWindowEvenIfTheBaseDid) {
+    TOOLINFOW info{};
+    info.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    CXTPToolTipContext::FillInToolInfo(&info, ::GetDesktopWindow(), CRect(1, 2, 3, 4), 47, CString());
+    EXPECT_EQ(static_cast<UINT>(TTF_SUBCLASS), info.uFlags);
 }
 
 TEST(ToolTipDelays, AreSetOneByOneOrTogether) {

@@ -13,19 +13,25 @@ HDC handleOf(const CDC* device) {
 } // namespace
 
 void CWnd::Invalidate(BOOL bErase) {
-    ::InvalidateRect(m_hWnd, nullptr, bErase);
+    InvalidateRect(nullptr, bErase);
 }
 
 void CWnd::InvalidateRect(LPCRECT lpRect, BOOL bErase) {
-    ::InvalidateRect(m_hWnd, lpRect, bErase);
+    if (m_hWnd != nullptr) {
+        ::InvalidateRect(m_hWnd, lpRect, bErase);
+    }
 }
 
 void CWnd::InvalidateRgn(CRgn* pRgn, BOOL bErase) {
-    ::InvalidateRgn(m_hWnd, handleOf(pRgn), bErase);
+    if (m_hWnd != nullptr) {
+        ::InvalidateRgn(m_hWnd, handleOf(pRgn), bErase);
+    }
 }
 
 void CWnd::ValidateRect(LPCRECT lpRect) {
-    ::ValidateRect(m_hWnd, lpRect);
+    if (m_hWnd != nullptr) {
+        ::ValidateRect(m_hWnd, lpRect);
+    }
 }
 
 BOOL CWnd::GetUpdateRect(LPRECT lpRect, BOOL bErase) {
@@ -41,11 +47,11 @@ void CWnd::UpdateWindow() {
 }
 
 BOOL CWnd::RedrawWindow(LPCRECT lpRectUpdate, CRgn* prgnUpdate, UINT flags) {
-    return ::RedrawWindow(m_hWnd, lpRectUpdate, handleOf(prgnUpdate), flags);
+    return m_hWnd != nullptr && ::RedrawWindow(m_hWnd, lpRectUpdate, handleOf(prgnUpdate), flags);
 }
 
 BOOL CWnd::LockWindowUpdate() {
-    return ::LockWindowUpdate(m_hWnd);
+    return m_hWnd != nullptr && ::LockWindowUpdate(m_hWnd);
 }
 
 void CWnd::UnlockWindowUpdate() {
@@ -57,15 +63,15 @@ void CWnd::SetRedraw(BOOL bRedraw) {
 }
 
 CDC* CWnd::GetDC() {
-    return CDC::FromHandle(::GetDC(m_hWnd));
+    return m_hWnd != nullptr ? CDC::FromHandle(::GetDC(m_hWnd)) : nullptr;
 }
 
 CDC* CWnd::GetDCEx(CRgn* prgnClip, DWORD flags) {
-    return CDC::FromHandle(::GetDCEx(m_hWnd, handleOf(prgnClip), flags));
+    return m_hWnd != nullptr ? CDC::FromHandle(::GetDCEx(m_hWnd, handleOf(prgnClip), flags)) : nullptr;
 }
 
 CDC* CWnd::GetWindowDC() {
-    return CDC::FromHandle(::GetWindowDC(m_hWnd));
+    return m_hWnd != nullptr ? CDC::FromHandle(::GetWindowDC(m_hWnd)) : nullptr;
 }
 
 int CWnd::ReleaseDC(CDC* pDC) {

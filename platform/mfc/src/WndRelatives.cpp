@@ -69,7 +69,7 @@ CWnd* CWnd::GetWindow(UINT nCmd) const {
 }
 
 CWnd* CWnd::GetTopWindow() const {
-    return FromHandle(::GetTopWindow(m_hWnd));
+    return m_hWnd != nullptr ? FromHandle(::GetTopWindow(m_hWnd)) : nullptr;
 }
 
 CWnd* CWnd::GetDesktopWindow() {

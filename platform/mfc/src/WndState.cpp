@@ -102,7 +102,7 @@ BOOL CWnd::IsZoomed() const {
 }
 
 CWnd* CWnd::SetFocus() {
-    return FromHandle(::SetFocus(m_hWnd));
+    return m_hWnd != nullptr ? FromHandle(::SetFocus(m_hWnd)) : nullptr;
 }
 
 CWnd* CWnd::GetFocus() {
@@ -110,7 +110,7 @@ CWnd* CWnd::GetFocus() {
 }
 
 CWnd* CWnd::SetCapture() {
-    return FromHandle(::SetCapture(m_hWnd));
+    return m_hWnd != nullptr ? FromHandle(::SetCapture(m_hWnd)) : nullptr;
 }
 
 CWnd* CWnd::GetCapture() {
@@ -118,7 +118,7 @@ CWnd* CWnd::GetCapture() {
 }
 
 CWnd* CWnd::SetActiveWindow() {
-    return FromHandle(::SetActiveWindow(m_hWnd));
+    return m_hWnd != nullptr ? FromHandle(::SetActiveWindow(m_hWnd)) : nullptr;
 }
 
 CWnd* CWnd::GetActiveWindow() {
@@ -134,11 +134,11 @@ CWnd* CWnd::GetForegroundWindow() {
 }
 
 UINT_PTR CWnd::SetTimer(UINT_PTR nIDEvent, UINT nElapse, TIMERPROC lpfnTimer) {
-    return ::SetTimer(m_hWnd, nIDEvent, nElapse, lpfnTimer);
+    return m_hWnd != nullptr ? ::SetTimer(m_hWnd, nIDEvent, nElapse, lpfnTimer) : 0;
 }
 
 BOOL CWnd::KillTimer(UINT_PTR nIDEvent) {
-    return ::KillTimer(m_hWnd, nIDEvent);
+    return m_hWnd != nullptr && ::KillTimer(m_hWnd, nIDEvent);
 }
 
 LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) const {
@@ -146,7 +146,7 @@ LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) const {
 }
 
 BOOL CWnd::PostMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    return ::PostMessageW(m_hWnd, message, wParam, lParam);
+    return m_hWnd != nullptr && ::PostMessageW(m_hWnd, message, wParam, lParam);
 }
 
 BOOL CWnd::SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -24,7 +24,8 @@ enum XTPToolTipStyle {
 /// window, or time is up; after a press or when time was up the same tool shows no tip again until the mouse was
 /// elsewhere.
 ///
-/// A context belongs to the thread of its windows, and needs its message pump.
+/// A context belongs to the thread of its windows, and needs its message pump. It may be destroyed, also by the end of
+/// the window that owns it, inside OnToolHitTest.
 class ORTIN_XTP_API CXTPToolTipContext : public CCmdTarget {
 public:
     CXTPToolTipContext();
@@ -58,5 +59,5 @@ public:
 
 private:
     class Hover;
-    std::unique_ptr<Hover> m_hover;
+    std::shared_ptr<Hover> m_hover; ///< shared with nobody, watched while the window is asked
 };

@@ -42,14 +42,14 @@ std::optional<Tool> toolUnder(CWnd& window, const MSG& mouseMove) {
     ::MapWindowPoints(mouseMove.hwnd, window.m_hWnd, &point, 1);
     TOOLINFOW info{};
     info.cbSize = sizeof(info);
-    const INT_PTR id = window.OnToolHitTest(point, &info);
-    Tool tool{window.m_hWnd, id, {}};
+    Tool tool{window.m_hWnd, -1, {}};
+    tool.id = window.OnToolHitTest(point, &info);
     if (info.lpszText != nullptr && info.lpszText != LPSTR_TEXTCALLBACKW) {
         tool.text = info.lpszText;
         std::free(info.lpszText);
     }
-    // The window may have been destroyed by whom it asked.
-    return id != -1 && !tool.text.IsEmpty() && tool.window != nullptr ? std::optional(tool) : std::nullopt;
+    // Whom the window asked may have destroyed it, or deleted its object.
+    return tool.id != -1 && !tool.text.IsEmpty() && ::IsWindow(tool.window) ? std::optional(tool) : std::nullopt;
 }
 
 } // namespace
@@ -122,7 +122,7 @@ void CXTPToolTipContext::Hover::leave() {
     hideTip();
     m_phase = Phase::Away;
     m_tool = Tool();
-    m_window.stopTimer(watchTimer);
+    m_window.KillTimer(watchTimer);
 }
 
 void CXTPToolTipContext::Hover::wait(int milliseconds) {
@@ -137,13 +137,13 @@ void CXTPToolTipContext::Hover::showTip() {
 }
 
 void CXTPToolTipContext::Hover::hideTip() {
-    m_window.stopTimer(waitTimer);
-    m_window.stopTimer(showTimer);
+    m_window.KillTimer(waitTimer);
+    m_window.KillTimer(showTimer);
     m_window.hide();
 }
 
 void CXTPToolTipContext::Hover::timeIsUp(UINT_PTR timer) {
-    m_window.stopTimer(timer);
+    m_window.KillTimer(timer);
     if (!isPointerOver(m_tool.window)) {
         leave();
     } else if (timer == waitTimer) {
@@ -166,7 +166,7 @@ void CXTPToolTipContext::Hover::repaint() {
     }
 }
 
-CXTPToolTipContext::CXTPToolTipContext() : m_hover(std::make_unique<Hover>()) {}
+CXTPToolTipContext::CXTPToolTipContext() : m_hover(std::make_shared<Hover>()) {}
 
 CXTPToolTipContext::~CXTPToolTipContext() = default;
 
@@ -240,7 +240,12 @@ void CXTPToolTipContext::FilterToolTipMessage(CWnd* pWnd, MSG* pMsg) {
         if (hasButtonDown(*pMsg)) {
             m_hover->press();
         } else {
-            m_hover->moveTo(toolUnder(*pWnd, *pMsg));
+            // The window is often the owner of this context, which then ends with it inside the question.
+            const std::weak_ptr<Hover> hover = m_hover;
+            const std::optional<Tool> tool = toolUnder(*pWnd, *pMsg);
+            if (const std::shared_ptr<Hover> left = hover.lock()) {
+                left->moveTo(tool);
+            }
         }
         break;
     case WM_NCMOUSEMOVE:
@@ -280,6 +285,8 @@ BOOL CXTPToolTipContext::IsToolTipVisible() const {
 void CXTPToolTipContext::FillInToolInfo(TOOLINFOW* pTI, HWND hWnd, const CRect& rect, INT_PTR nHit,
                                         const CString& strTipText) {
     pTI->hwnd = hWnd;
+    // The base's answer for a child, which the caller may have asked for first, names a window instead.
+    pTI->uFlags &= ~static_cast<UINT>(TTF_IDISHWND);
     pTI->rect = rect;
     pTI->uId = static_cast<UINT_PTR>(nHit);
     pTI->lpszText = strTipText.IsEmpty() ? nullptr : _wcsdup(strTipText);

@@ -100,13 +100,6 @@ void ToolTipWindow::hide() {
     }
 }
 
-void ToolTipWindow::stopTimer(UINT_PTR id) {
-    // For a null handle the system would end a timer of the thread, which belongs to somebody else.
-    if (m_hWnd != nullptr) {
-        KillTimer(id);
-    }
-}
-
 void ToolTipWindow::makeFont() {
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof(metrics);

@@ -22,7 +22,6 @@ public:
     /// Shows the text near a point of the screen, without taking the focus.
     void show(const CString& text, CPoint pointer);
     void hide();
-    void stopTimer(UINT_PTR id);
 
 private:
     DECLARE_MESSAGE_MAP()
