@@ -5,6 +5,8 @@
 
 #include <afxdialogex.h>
 
+#include <thread>
+
 namespace {
 
 class TestDialog : public CDialog {
@@ -94,6 +96,47 @@ TEST_F(Dialogs, AHostThatDestroysTheDialogEndsItsLoop) {
     };
     EXPECT_EQ(-1, run(destroyLater));
     EXPECT_EQ(nullptr, dialog.m_hWnd);
+}
+
+TEST_F(Dialogs, ADialogThatKeepsItsEndFromItsBaseEndsItsLoop) {
+    class Unchained : public TestDialog {
+    protected:
+        BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override {
+            return message == WM_NCDESTROY || TestDialog::OnWndMsg(message, wParam, lParam, pResult);
+        }
+    } unchained;
+    unchained.onInit = [](TestDialog& running) {
+        running.SetTimer(1, 10, [](HWND window, UINT, UINT_PTR, DWORD) { ::DestroyWindow(window); });
+    };
+    ASSERT_TRUE(unchained.InitModalIndirect(memory.get(), &owner));
+    EXPECT_EQ(-1, unchained.DoModal());
+    EXPECT_EQ(nullptr, unchained.m_hWnd);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+TEST_F(Dialogs, AMessageFromAnotherThreadThatDestroysTheDialogWakesItsLoop) {
+    constexpr UINT destroy = WM_APP + 7;
+    class Destroyed : public TestDialog {
+    protected:
+        BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override {
+            if (message == destroy) {
+                DestroyWindow();
+                return TRUE;
+            }
+            return TestDialog::OnWndMsg(message, wParam, lParam, pResult);
+        }
+    } destroyed;
+    std::thread sender;
+    destroyed.onInit = [&](TestDialog& running) {
+        sender = std::thread([window = running.m_hWnd] {
+            // By now the loop waits for a message in the queue, and a sent one never lies there.
+            Sleep(300);
+            ::SendMessageW(window, destroy, 0, 0);
+        });
+    };
+    ASSERT_TRUE(destroyed.InitModalIndirect(memory.get(), &owner));
+    EXPECT_EQ(-1, destroyed.DoModal());
+    sender.join();
 }
 
 TEST_F(Dialogs, AQuitInsideADialogReachesTheLoopOutside) {

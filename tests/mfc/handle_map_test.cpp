@@ -124,3 +124,82 @@ TEST(HandleMap, EachThreadHasItsOwnThreadObject) {
     std::thread([&] { elsewhere = AfxGetThread(); }).join();
     EXPECT_EQ(nullptr, elsewhere);
 }
+
+// The same rules for every kind of handle.
+
+namespace {
+
+struct WindowKind {
+    using Object = CWnd;
+    static HWND make() {
+        return CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, GetModuleHandleW(nullptr),
+                               nullptr);
+    }
+    static void end(HWND handle) { ::DestroyWindow(handle); }
+};
+
+struct DeviceKind {
+    using Object = CDC;
+    static HDC make() { return ::CreateCompatibleDC(nullptr); }
+    static void end(HDC handle) { ::DeleteDC(handle); }
+};
+
+struct DrawingKind {
+    using Object = CGdiObject;
+    static HGDIOBJ make() { return ::CreateSolidBrush(RGB(1, 2, 3)); }
+    static void end(HGDIOBJ handle) { ::DeleteObject(handle); }
+};
+
+struct MenuKind {
+    using Object = CMenu;
+    static HMENU make() { return ::CreateMenu(); }
+    static void end(HMENU handle) { ::DestroyMenu(handle); }
+};
+
+template <class Kind>
+class EachHandleMap : public testing::Test {
+protected:
+    ~EachHandleMap() override { Kind::end(handle); }
+
+    decltype(Kind::make()) handle = Kind::make();
+};
+
+using Kinds = testing::Types<WindowKind, DeviceKind, DrawingKind, MenuKind>;
+TYPED_TEST_SUITE(EachHandleMap, Kinds);
+
+} // namespace
+
+TYPED_TEST(EachHandleMap, ATemporaryObjectThatWasDetachedStandsForItsHandleAgainWhenItIsAskedFor) {
+    using Object = typename TypeParam::Object;
+    Object* temporary = Object::FromHandle(this->handle);
+    EXPECT_EQ(this->handle, temporary->Detach());
+    EXPECT_EQ(this->handle, static_cast<decltype(this->handle)>(*Object::FromHandle(this->handle)));
+}
+
+TYPED_TEST(EachHandleMap, DetachingATemporaryObjectLeavesTheAttachedOneInItsPlace) {
+    using Object = typename TypeParam::Object;
+    Object* temporary = Object::FromHandle(this->handle);
+    Object attached;
+    ASSERT_TRUE(attached.Attach(this->handle));
+    EXPECT_EQ(this->handle, temporary->Detach());
+    EXPECT_EQ(&attached, Object::FromHandle(this->handle));
+    EXPECT_EQ(this->handle, attached.Detach());
+}
+
+TYPED_TEST(EachHandleMap, WhoAttachedLastIsFoundAndWhoAttachedFirstDoesNotTakeItAway) {
+    using Object = typename TypeParam::Object;
+    Object first;
+    Object second;
+    ASSERT_TRUE(first.Attach(this->handle));
+    ASSERT_TRUE(second.Attach(this->handle));
+    EXPECT_EQ(this->handle, first.Detach());
+    EXPECT_EQ(&second, Object::FromHandle(this->handle));
+    EXPECT_EQ(this->handle, second.Detach());
+    EXPECT_NE(&second, Object::FromHandle(this->handle));
+}
+
+TYPED_TEST(EachHandleMap, ANullHandleIsNeitherAttachedNorDetached) {
+    typename TypeParam::Object object;
+    EXPECT_FALSE(object.Attach(nullptr));
+    EXPECT_EQ(nullptr, object.Detach());
+}

@@ -1,5 +1,7 @@
 #include "test_windows.h"
 
+#include "support/ImportPatch.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -248,6 +250,32 @@ TEST_F(Operations, WindowClassesOfTheSamePropertiesAreOne) {
     EXPECT_EQ(hand, known.hCursor);
     TestFrame window;
     EXPECT_TRUE(window.CreateEx(0, name, L"", WS_POPUP, CRect(0, 0, 5, 5), nullptr, 0));
+}
+
+namespace {
+
+BOOL WINAPI knowNoClass(HINSTANCE, LPCWSTR, WNDCLASSW*) {
+    return FALSE;
+}
+
+ATOM WINAPI failToRegister(const WNDCLASSW*) {
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return 0;
+}
+
+} // namespace
+
+TEST_F(Operations, AWindowClassThatAnotherThreadRegistersMeanwhileIsRegisteredAllTheSame) {
+    WNDCLASSW wanted{};
+    wanted.lpfnWndProc = &::DefWindowProcW;
+    wanted.hInstance = AfxGetInstanceHandle();
+    wanted.lpszClassName = L"two threads want it";
+    ASSERT_TRUE(AfxRegisterClass(&wanted));
+    const support::ImportPatch patch(GetModuleHandleW(L"OrtinMfc.dll"), "USER32.dll", "GetClassInfoW", &knowNoClass);
+    EXPECT_TRUE(AfxRegisterClass(&wanted));
+    const support::ImportPatch failing(GetModuleHandleW(L"OrtinMfc.dll"), "USER32.dll", "RegisterClassW",
+                                       &failToRegister);
+    EXPECT_FALSE(AfxRegisterClass(&wanted)) << "what fails for another reason still fails";
 }
 
 TEST_F(Operations, AWindowLessObjectGetsTheSystemsAnswerForANullHandle) {

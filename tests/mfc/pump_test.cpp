@@ -11,12 +11,16 @@ public:
     explicit Translating(std::string name) : m_name(std::move(name)) {}
     bool eats = false;
     bool destroysItself = false;
+    std::function<void()> whenAsked;
 
     BOOL PreTranslateMessage(MSG* pMsg) override {
         if (pMsg->message == testMessage) {
             S_log.add(m_name);
             if (destroysItself) {
                 DestroyWindow();
+            }
+            if (whenAsked) {
+                whenAsked();
             }
             return eats;
         }
@@ -94,6 +98,28 @@ TEST_F(PreTranslate, TheMainWindowSeesTheMessagesOfFloatingWindowsLast) {
     EXPECT_EQ("floating main", post(floating));
 }
 
+TEST_F(PreTranslate, AMainWindowThatEndsWhileOthersAreAskedIsNotAskedAnyMore) {
+    auto* doomed = new Translating("doomed");
+    ASSERT_TRUE(doomed->CreateEx(0, nullptr, L"", WS_OVERLAPPEDWINDOW, CRect(0, 0, 5, 5), nullptr, 0));
+    TestApplication::get().m_pMainWnd = doomed;
+    Translating floating{"floating"};
+    ASSERT_TRUE(floating.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 5, 5), nullptr, 0));
+    floating.whenAsked = [doomed] {
+        delete doomed;
+        // Its end is told to the loop, which goes on in this test.
+        MSG quit{};
+        EXPECT_TRUE(PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    };
+    EXPECT_EQ("floating floating:dispatched", post(floating));
+}
+
+TEST_F(PreTranslate, TheMainWindowIsNotAskedForAWindowThatEndedWhileItWasAsked) {
+    Translating floating{"floating"};
+    ASSERT_TRUE(floating.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 5, 5), nullptr, 0));
+    floating.destroysItself = true;
+    EXPECT_EQ("floating", post(floating));
+}
+
 TEST_F(PreTranslate, TheWalkStopsAtTheWindowThatIsNamed) {
     MSG message{leaf.m_hWnd, testMessage, 0, 0, 0, {}};
     EXPECT_FALSE(CWnd::WalkPreTranslateTree(panel.m_hWnd, &message));
@@ -118,6 +144,86 @@ TEST(MessageLoop, TheExitCodeIsTheOneThatWasPosted) {
     TestApplication::get().m_pMainWnd = &main;
     AfxPostQuitMessage(17);
     EXPECT_EQ(17, TestApplication::get().Run());
+    TestApplication::get().m_pMainWnd = nullptr;
+}
+
+TEST(MessageLoop, AMainWindowThatKeepsItsEndFromItsBaseEndsTheLoopAllTheSame) {
+    TestFrame main;
+    ASSERT_TRUE(main.createHidden());
+    TestApplication& application = TestApplication::get();
+    application.m_pMainWnd = &main;
+    main.handler = [](UINT message, WPARAM, LPARAM, LRESULT&) { return message == WM_NCDESTROY; };
+    main.PostMessage(WM_CLOSE);
+    EXPECT_EQ(0, application.Run());
+    EXPECT_EQ(nullptr, application.m_pMainWnd);
+}
+
+namespace {
+
+/// What the program does instead of a loop, and what it says at its end.
+class ProgramCourse {
+public:
+    ProgramCourse(std::function<BOOL()> initialise, std::function<int(int)> exit) {
+        TestApplication::get().initialise = std::move(initialise);
+        TestApplication::get().exit = std::move(exit);
+    }
+    ProgramCourse(const ProgramCourse&) = delete;
+    ProgramCourse& operator=(const ProgramCourse&) = delete;
+    ~ProgramCourse() {
+        TestApplication::get().initialise = nullptr;
+        TestApplication::get().exit = nullptr;
+    }
+    static int run() { return AfxWinMain(GetModuleHandleW(nullptr), nullptr, GetCommandLineW(), SW_SHOWNOACTIVATE); }
+};
+
+/// Dispatches one message with this number in its wParam, as a modal dialog would.
+BOOL pumpOneWith(WPARAM number) {
+    ::PostMessageW(nullptr, testMessage, number, 0);
+    return AfxPumpMessage();
+}
+
+} // namespace
+
+TEST(ProgramEnd, AProgramThatIsOneDialogEndsWithZeroWhateverItPumpedLast) {
+    const ProgramCourse course(
+        [] {
+            EXPECT_TRUE(pumpOneWith(77));
+            return FALSE;
+        },
+        nullptr);
+    EXPECT_EQ(0, ProgramCourse::run());
+}
+
+TEST(ProgramEnd, TheCodeIsThatOfExitInstanceAlsoWithoutALoop) {
+    const ProgramCourse course([] { return FALSE; }, [](int) { return 7; });
+    EXPECT_EQ(7, ProgramCourse::run());
+}
+
+TEST(ProgramEnd, AQuitThatEndedTheDialogOfAProgramGivesTheCode) {
+    const ProgramCourse course(
+        [] {
+            PostQuitMessage(5);
+            EXPECT_FALSE(AfxPumpMessage());
+            return FALSE;
+        },
+        nullptr);
+    EXPECT_EQ(5, ProgramCourse::run());
+}
+
+TEST(ProgramEnd, WhatIsPumpedOnTheWayOutDoesNotChangeTheCode) {
+    TestFrame main;
+    ASSERT_TRUE(main.createHidden());
+    const ProgramCourse course(
+        [&main] {
+            TestApplication::get().m_pMainWnd = &main;
+            PostQuitMessage(17);
+            return TRUE;
+        },
+        [](int) {
+            EXPECT_TRUE(pumpOneWith(78));
+            return TestApplication::get().CWinApp::ExitInstance();
+        });
+    EXPECT_EQ(17, ProgramCourse::run());
     TestApplication::get().m_pMainWnd = nullptr;
 }
 

@@ -29,9 +29,16 @@ class TestApplication : public CWinApp {
 public:
     CallLog log;
     LONG idleCalls = 0;
+    std::function<BOOL()> initialise;
+    std::function<int(int code)> exit; ///< gets the framework's own code and gives another
 
     static TestApplication& get() { return *static_cast<TestApplication*>(AfxGetApp()); }
 
+    BOOL InitInstance() override { return initialise ? initialise() : CWinApp::InitInstance(); }
+    int ExitInstance() override {
+        const int code = CWinApp::ExitInstance();
+        return exit ? exit(code) : code;
+    }
     BOOL OnIdle(LONG lCount) override {
         ++idleCalls;
         return CWinApp::OnIdle(lCount);

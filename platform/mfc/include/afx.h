@@ -93,7 +93,8 @@ ORTIN_MFC_API CObject* AfxDynamicDownCast(const CRuntimeClass* pClass, CObject* 
 
 [[noreturn]] ORTIN_MFC_API void AfxAssertFailedLine(LPCSTR lpszFileName, int nLine);
 ORTIN_MFC_API void AfxAssertValidObject(const CObject* pObject, LPCSTR lpszFileName, int nLine);
-/// Formats as printf does and writes to the debugger's output, at most 1023 characters.
+/// Formats as CString::Format does (%s is a text of the format's own width) and writes to the debugger's output, at
+/// most 1023 characters.
 ORTIN_MFC_API void AfxTrace(LPCWSTR lpszFormat, ...);
 ORTIN_MFC_API void AfxTrace(LPCSTR lpszFormat, ...);
 

@@ -18,6 +18,7 @@ public:
     virtual BOOL InitInstance();
     /// Pumps messages until WM_QUIT and gives what ExitInstance answers.
     virtual int Run();
+    /// The exit code: that of the WM_QUIT that ended the loop, 0 without a loop.
     virtual int ExitInstance();
 
     /// Waits for a message, translates and dispatches it; false at WM_QUIT.
@@ -86,7 +87,8 @@ ORTIN_MFC_API LPCTSTR AfxGetAppName();
 ORTIN_MFC_API void AfxPostQuitMessage(int nExitCode);
 /// The start of a program: takes over the instance, the command line and the way to show the first window.
 ORTIN_MFC_API BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
-/// The whole life of a program: AfxWinInit, InitApplication, InitInstance, Run; its exit code.
+/// The whole life of a program: AfxWinInit, InitApplication, InitInstance, Run; its exit code. An InitInstance that
+/// answers false, as that of a program which is one modal dialog, ends it without Run, and ExitInstance gives the code.
 ORTIN_MFC_API int AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
 
 /// Shown over the main window with the application's name; the box's answer, 0 if it can't be shown.

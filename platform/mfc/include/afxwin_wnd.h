@@ -22,8 +22,8 @@ struct CCreateContext;
 ///
 /// Handles belong to threads: an object stands for its window only in the thread that created or attached it.
 /// Coordinates are pixels: of the client area, or of the screen where the name or the comment says so.
-/// The operations that only hand their arguments to the system's function of that name keep its contract; without a
-/// window they get what the system answers for a null handle.
+/// The operations that only hand their arguments to the system's function of that name keep its contract. Without a
+/// window they fail or do nothing, also where the system takes a null handle for the desktop, the screen or the thread.
 class ORTIN_MFC_API CWnd : public CCmdTarget {
     DECLARE_DYNCREATE(CWnd)
 public:
@@ -50,7 +50,7 @@ public:
     operator HWND() const { return m_hWnd; }
     BOOL operator==(const CWnd& wnd) const;
 
-    /// Ties object and window without taking over its messages; false for a null handle.
+    /// Ties object and window without taking over its messages; false for a null handle. The object must have none.
     BOOL Attach(HWND hWndNew);
     /// Unties them and gives back the handle, which the caller owns from now on.
     HWND Detach();
@@ -355,6 +355,9 @@ protected:
 private:
     friend class WindowDispatch;
     explicit CWnd(HWND place);
+    /// The window goes: it is its thread's main or active window no more, and its modal loop ends.
+    void leaveThread();
+    void stopModalLoop();
 
     WNDPROC m_pfnSuper = nullptr;
     HWND m_hWndOwner = nullptr;

@@ -9,12 +9,9 @@ struct DeviceContextTraits {
     using Object = CDC;
     using Handle = HDC;
 
-    static std::unique_ptr<CDC> makeTemporary(HDC handle) {
-        auto context = std::make_unique<CDC>();
-        context->m_hDC = context->m_hAttribDC = handle;
-        return context;
-    }
-    static void release(CDC& context) noexcept { context.m_hDC = context.m_hAttribDC = nullptr; }
+    static std::unique_ptr<CDC> make(HDC) { return std::make_unique<CDC>(); }
+    static HDC handleOf(const CDC& context) { return context.m_hDC; }
+    static void setHandle(CDC& context, HDC handle) noexcept { context.m_hDC = context.m_hAttribDC = handle; }
 };
 
 using DeviceContextMap = HandleMap<DeviceContextTraits>;
@@ -31,12 +28,7 @@ CDC::~CDC() {
 }
 
 CDC* CDC::FromHandle(HDC hDC) {
-    CDC* context = DeviceContextMap::ofThread().fromHandle(hDC);
-    // A temporary object that was detached or deleted is still in the map when the system gives the handle out again.
-    if (context != nullptr && context->m_hDC == nullptr) {
-        context->m_hDC = context->m_hAttribDC = hDC;
-    }
-    return context;
+    return DeviceContextMap::ofThread().fromHandle(hDC);
 }
 
 void CDC::DeleteTempMap() {
@@ -44,23 +36,17 @@ void CDC::DeleteTempMap() {
 }
 
 BOOL CDC::Attach(HDC hDC) {
-    ASSERT(m_hDC == nullptr);
-    if (hDC == nullptr) {
+    if (!DeviceContextMap::ofThread().attach(*this, hDC)) {
         return FALSE;
     }
-    DeviceContextMap::ofThread().setPermanent(hDC, this);
-    m_hDC = hDC;
+    // Derived classes may want another one for the attributes.
     SetAttribDC(hDC);
     return TRUE;
 }
 
 HDC CDC::Detach() {
-    const HDC handle = std::exchange(m_hDC, nullptr);
     ReleaseAttribDC();
-    if (handle != nullptr && DeviceContextMap::ofThread().fromHandlePermanent(handle) == this) {
-        DeviceContextMap::ofThread().removePermanent(handle);
-    }
-    return handle;
+    return DeviceContextMap::ofThread().detach(*this);
 }
 
 BOOL CDC::CreateDC(LPCWSTR lpszDriverName, LPCWSTR lpszDeviceName, LPCWSTR lpszOutput, const void* lpInitData) {
@@ -80,9 +66,7 @@ BOOL CDC::DeleteDC() {
 }
 
 void CDC::SetOutputDC(HDC hDC) {
-    if (m_hDC != nullptr && DeviceContextMap::ofThread().fromHandlePermanent(m_hDC) == this) {
-        DeviceContextMap::ofThread().removePermanent(m_hDC);
-    }
+    DeviceContextMap::ofThread().forget(*this);
     m_hDC = hDC;
 }
 

@@ -3,11 +3,17 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
-#include <cwchar>
 
 namespace {
 
 constexpr std::size_t traceCharacters = 1024;
+
+/// With the formats of CString, where %s is a text of the format's own width.
+template <typename CharT>
+void formatTrace(CharT (&text)[traceCharacters], const CharT* format, va_list arguments) {
+    CStringPlatform<CharT>::format(text, traceCharacters, format, arguments);
+    text[traceCharacters - 1] = CharT();
+}
 
 } // namespace
 
@@ -31,9 +37,8 @@ void AfxTrace(LPCWSTR lpszFormat, ...) {
     wchar_t text[traceCharacters];
     va_list arguments;
     va_start(arguments, lpszFormat);
-    std::vswprintf(text, traceCharacters, lpszFormat, arguments);
+    formatTrace(text, lpszFormat, arguments);
     va_end(arguments);
-    text[traceCharacters - 1] = L'\0';
     OutputDebugStringW(text);
 }
 
@@ -41,7 +46,7 @@ void AfxTrace(LPCSTR lpszFormat, ...) {
     char text[traceCharacters];
     va_list arguments;
     va_start(arguments, lpszFormat);
-    std::vsnprintf(text, sizeof(text), lpszFormat, arguments);
+    formatTrace(text, lpszFormat, arguments);
     va_end(arguments);
     OutputDebugStringA(text);
 }

@@ -65,13 +65,9 @@ BOOL CWnd::CreateDlg(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
 
 BOOL CWnd::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst) {
     HWND parent = pParentWnd != nullptr ? pParentWnd->m_hWnd : nullptr;
-    WindowDispatch::hookCreation(this);
-    HWND made = ::CreateDialogIndirectParamW(hInst != nullptr ? hInst : AfxGetInstanceHandle(), lpDialogTemplate,
-                                             parent, &dialogProcedure, 0);
-    if (!WindowDispatch::unhookCreation()) {
-        PostNcDestroy();
-    }
-    return made != nullptr;
+    HINSTANCE module = hInst != nullptr ? hInst : AfxGetInstanceHandle();
+    return WindowDispatch::create(
+        *this, [=] { return ::CreateDialogIndirectParamW(module, lpDialogTemplate, parent, &dialogProcedure, 0); });
 }
 
 CDialog::CDialog() = default;

@@ -34,12 +34,9 @@ struct GdiObjectTraits {
     using Object = CGdiObject;
     using Handle = HGDIOBJ;
 
-    static std::unique_ptr<CGdiObject> makeTemporary(HGDIOBJ handle) {
-        std::unique_ptr<CGdiObject> object = makeObjectOfKind(::GetObjectType(handle));
-        object->m_hObject = handle;
-        return object;
-    }
-    static void release(CGdiObject& object) noexcept { object.m_hObject = nullptr; }
+    static std::unique_ptr<CGdiObject> make(HGDIOBJ handle) { return makeObjectOfKind(::GetObjectType(handle)); }
+    static HGDIOBJ handleOf(const CGdiObject& object) { return object.m_hObject; }
+    static void setHandle(CGdiObject& object, HGDIOBJ handle) noexcept { object.m_hObject = handle; }
 };
 
 using GdiObjectMap = HandleMap<GdiObjectTraits>;
@@ -57,12 +54,7 @@ CGdiObject::~CGdiObject() {
 }
 
 CGdiObject* CGdiObject::FromHandle(HGDIOBJ hObject) {
-    CGdiObject* object = GdiObjectMap::ofThread().fromHandle(hObject);
-    // A temporary object that was detached or deleted is still in the map when the system gives the handle out again.
-    if (object != nullptr) {
-        object->m_hObject = hObject;
-    }
-    return object;
+    return GdiObjectMap::ofThread().fromHandle(hObject);
 }
 
 void CGdiObject::DeleteTempMap() {
@@ -70,21 +62,11 @@ void CGdiObject::DeleteTempMap() {
 }
 
 BOOL CGdiObject::Attach(HGDIOBJ hObject) {
-    ASSERT(m_hObject == nullptr);
-    if (hObject == nullptr) {
-        return FALSE;
-    }
-    GdiObjectMap::ofThread().setPermanent(hObject, this);
-    m_hObject = hObject;
-    return TRUE;
+    return GdiObjectMap::ofThread().attach(*this, hObject);
 }
 
 HGDIOBJ CGdiObject::Detach() {
-    const HGDIOBJ handle = std::exchange(m_hObject, nullptr);
-    if (handle != nullptr && GdiObjectMap::ofThread().fromHandlePermanent(handle) == this) {
-        GdiObjectMap::ofThread().removePermanent(handle);
-    }
-    return handle;
+    return GdiObjectMap::ofThread().detach(*this);
 }
 
 BOOL CGdiObject::DeleteObject() {

@@ -14,9 +14,9 @@
 ///
 /// `Traits` says of which kind:
 ///   using Object, using Handle;
-///   static std::unique_ptr<Object> makeTemporary(Handle);   a new object that stands for the handle
-///   static void release(Object&) noexcept;                   makes it forget the handle, so that its destructor
-///                                                            leaves the handle alone
+///   static std::unique_ptr<Object> make(Handle);      a new object of the handle's sort, which has no handle yet
+///   static Handle handleOf(const Object&);
+///   static void setHandle(Object&, Handle) noexcept;  null makes it leave the handle alone when it ends
 template <class Traits>
 class HandleMap final : public HandleMapBase {
 public:
@@ -43,12 +43,17 @@ public:
         if (Object* permanent = fromHandlePermanent(handle)) {
             return permanent;
         }
-        const auto found = m_temporary.find(handle);
-        if (found != m_temporary.end()) {
-            return found->second.get();
+        auto found = m_temporary.find(handle);
+        if (found == m_temporary.end()) {
+            std::unique_ptr<Object> made = Traits::make(handle);
+            found = m_temporary.emplace(handle, std::move(made)).first;
         }
-        std::unique_ptr<Object> made = Traits::makeTemporary(handle);
-        return m_temporary.emplace(handle, std::move(made)).first->second.get();
+        Object& temporary = *found->second;
+        // One that was detached or ended is still in the map when the system gives its handle out again.
+        if (Traits::handleOf(temporary) != handle) {
+            Traits::setHandle(temporary, handle);
+        }
+        return &temporary;
     }
 
     Object* fromHandlePermanent(Handle handle) const {
@@ -56,10 +61,32 @@ public:
         return found != m_permanent.end() ? found->second : nullptr;
     }
 
-    void setPermanent(Handle handle, Object* object) { m_permanent[handle] = object; }
+    /// The object, which must have no handle, stands for this one from now on; false for a null handle.
+    bool attach(Object& object, Handle handle) {
+        ASSERT(Traits::handleOf(object) == nullptr);
+        if (handle == nullptr) {
+            return false;
+        }
+        m_permanent[handle] = &object;
+        Traits::setHandle(object, handle);
+        return true;
+    }
 
-    /// The handle is nobody's any more. A temporary object of it stays until idle, for those who still look at it.
-    void removePermanent(Handle handle) { m_permanent.erase(handle); }
+    /// Parts them and gives back the handle. A temporary object of it stays until idle, for those who still look at it.
+    Handle detach(Object& object) {
+        const Handle handle = Traits::handleOf(object);
+        forget(object);
+        Traits::setHandle(object, nullptr);
+        return handle;
+    }
+
+    /// The object's handle is nobody's any more; if it is another object's, it stays that one's.
+    void forget(const Object& object) {
+        const auto found = m_permanent.find(Traits::handleOf(object));
+        if (found != m_permanent.end() && found->second == &object) {
+            m_permanent.erase(found);
+        }
+    }
 
     void deleteTemporaries() override { clearTemporaries(); }
 
@@ -72,7 +99,7 @@ private:
         std::unordered_map<Handle, std::unique_ptr<Object>> dying;
         dying.swap(m_temporary);
         for (auto& [handle, object] : dying) {
-            Traits::release(*object);
+            Traits::setHandle(*object, nullptr);
         }
     }
 

@@ -9,12 +9,9 @@ struct MenuTraits {
     using Object = CMenu;
     using Handle = HMENU;
 
-    static std::unique_ptr<CMenu> makeTemporary(HMENU handle) {
-        auto menu = std::make_unique<CMenu>();
-        menu->m_hMenu = handle;
-        return menu;
-    }
-    static void release(CMenu& menu) noexcept { menu.m_hMenu = nullptr; }
+    static std::unique_ptr<CMenu> make(HMENU) { return std::make_unique<CMenu>(); }
+    static HMENU handleOf(const CMenu& menu) { return menu.m_hMenu; }
+    static void setHandle(CMenu& menu, HMENU handle) noexcept { menu.m_hMenu = handle; }
 };
 
 using MenuMap = HandleMap<MenuTraits>;
@@ -30,12 +27,7 @@ CMenu::~CMenu() {
 }
 
 CMenu* CMenu::FromHandle(HMENU hMenu) {
-    CMenu* menu = MenuMap::ofThread().fromHandle(hMenu);
-    // A temporary object that was detached or destroyed is still in the map when the handle is given out again.
-    if (menu != nullptr) {
-        menu->m_hMenu = hMenu;
-    }
-    return menu;
+    return MenuMap::ofThread().fromHandle(hMenu);
 }
 
 void CMenu::DeleteTempMap() {
@@ -43,21 +35,11 @@ void CMenu::DeleteTempMap() {
 }
 
 BOOL CMenu::Attach(HMENU hMenu) {
-    ASSERT(m_hMenu == nullptr);
-    if (hMenu == nullptr) {
-        return FALSE;
-    }
-    MenuMap::ofThread().setPermanent(hMenu, this);
-    m_hMenu = hMenu;
-    return TRUE;
+    return MenuMap::ofThread().attach(*this, hMenu);
 }
 
 HMENU CMenu::Detach() {
-    const HMENU handle = std::exchange(m_hMenu, nullptr);
-    if (handle != nullptr && MenuMap::ofThread().fromHandlePermanent(handle) == this) {
-        MenuMap::ofThread().removePermanent(handle);
-    }
-    return handle;
+    return MenuMap::ofThread().detach(*this);
 }
 
 BOOL CMenu::DestroyMenu() {

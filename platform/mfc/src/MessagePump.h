@@ -10,7 +10,7 @@ bool pumpMessages(Idle idle, GoesOn goesOn);
 /// Whether the message that was pumped last is a reason to be idle again.
 bool pumpedMessageEndsIdle();
 
-/// The exit code of the WM_QUIT that was pumped last.
+/// The exit code of the WM_QUIT that was pumped last; 0 if there was none.
 int pumpedQuitCode();
 
 template <class Idle, class GoesOn>

@@ -33,9 +33,13 @@ BOOL CWnd::ContinueModal() {
 
 void CWnd::EndModalLoop(int nResult) {
     m_nModalResult = nResult;
+    stopModalLoop();
+}
+
+void CWnd::stopModalLoop() {
     if (m_modalLoopRuns) {
         m_modalLoopRuns = false;
-        // Wakes the loop, should it be waiting.
-        PostMessage(WM_NULL);
+        // Wakes the loop, should it be waiting. To the thread, for the window may be about to go.
+        ::PostMessageW(nullptr, WM_NULL, 0, 0);
     }
 }

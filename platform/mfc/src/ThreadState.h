@@ -40,6 +40,7 @@ public:
     HHOOK creationHook = nullptr;
     MSG lastSentMessage{}; ///< what the innermost running window procedure was called with
     MSG pumpedMessage{};   ///< what a loop of this thread took from the queue last
+    int quitCode = 0;      ///< of the WM_QUIT that a loop of this thread took last
     int temporaryMapLocks = 0;
 
 private:

@@ -13,7 +13,11 @@ namespace {
 BOOL pumpOneMessage() {
     MSG message{};
     const BOOL got = GetMessageW(&message, nullptr, 0, 0);
-    ThreadState::current().pumpedMessage = message;
+    ThreadState& state = ThreadState::current();
+    state.pumpedMessage = message;
+    if (message.message == WM_QUIT) {
+        state.quitCode = static_cast<int>(message.wParam);
+    }
     // -1 tells of a queue that can't be read, which ends the loop as a quit does.
     if (got <= 0) {
         return FALSE;
@@ -25,13 +29,19 @@ BOOL pumpOneMessage() {
     return TRUE;
 }
 
+HWND mainHandle() {
+    const CWnd* mainWindow = AfxGetMainWnd();
+    return mainWindow != nullptr ? mainWindow->m_hWnd : nullptr;
+}
+
 BOOL preTranslate(MSG* message) {
-    CWnd* mainWindow = AfxGetMainWnd();
-    if (CWnd::WalkPreTranslateTree(mainWindow != nullptr ? mainWindow->m_hWnd : nullptr, message)) {
+    if (CWnd::WalkPreTranslateTree(mainHandle(), message)) {
         return TRUE;
     }
-    // Windows that float over the main window let it have the message last.
-    if (mainWindow == nullptr || message->hwnd == nullptr) {
+    // Windows that float over the main window let it have the message last. Whoever was asked before may have ended
+    // either of them.
+    CWnd* mainWindow = AfxGetMainWnd();
+    if (mainWindow == nullptr || !::IsWindow(message->hwnd)) {
         return FALSE;
     }
     CWnd* window = CWnd::FromHandle(message->hwnd);
@@ -131,7 +141,7 @@ bool pumpedMessageEndsIdle() {
 }
 
 int pumpedQuitCode() {
-    return static_cast<int>(ThreadState::current().pumpedMessage.wParam);
+    return ThreadState::current().quitCode;
 }
 
 void AfxPostQuitMessage(int nExitCode) {

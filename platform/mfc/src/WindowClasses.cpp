@@ -41,5 +41,6 @@ BOOL AfxRegisterClass(WNDCLASS* lpWndClass) {
     if (GetClassInfoW(lpWndClass->hInstance, lpWndClass->lpszClassName, &known)) {
         return TRUE;
     }
-    return RegisterClassW(lpWndClass) != 0;
+    // Another thread may have been faster.
+    return RegisterClassW(lpWndClass) != 0 || GetLastError() == ERROR_CLASS_ALREADY_EXISTS;
 }

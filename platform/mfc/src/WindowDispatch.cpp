@@ -44,14 +44,20 @@ private:
 
 } // namespace
 
-std::unique_ptr<CWnd> WindowMapTraits::makeTemporary(HWND handle) {
-    auto window = std::make_unique<CWnd>();
-    window->m_hWnd = handle;
-    return window;
-}
-
-void WindowMapTraits::release(CWnd& window) noexcept {
-    window.m_hWnd = nullptr;
+bool WindowDispatch::create(CWnd& window, const std::function<HWND()>& createWindow) {
+    hookCreation(&window);
+    // Without the hook the window would live without its object.
+    HWND made = ThreadState::current().creationHook != nullptr ? createWindow() : nullptr;
+    if (!unhookCreation()) {
+        // Somebody else's hook that does not pass the creation on lets a window through that has no object.
+        if (made != nullptr) {
+            ::DestroyWindow(made);
+        }
+        window.PostNcDestroy();
+        return false;
+    }
+    // A window that was refused by its own WM_CREATE has ended in OnNcDestroy: the object may be gone by now.
+    return made != nullptr;
 }
 
 void WindowDispatch::hookCreation(CWnd* window) {
@@ -83,18 +89,42 @@ LRESULT CALLBACK WindowDispatch::creationHook(int code, WPARAM wParam, LPARAM lP
             CWnd& window = *state.creatingWindow;
             state.creatingWindow = nullptr;
             state.creationHook = nullptr;
-            attach(window, handle);
-            const LRESULT result = CallNextHookEx(hook, code, wParam, lParam);
+            const bool attached = attachGuarded(window, handle, reinterpret_cast<const CBT_CREATEWND*>(lParam)->lpcs);
+            const bool refusedByOthers = CallNextHookEx(hook, code, wParam, lParam) != 0;
             UnhookWindowsHookEx(hook);
-            return result;
+            constexpr LRESULT goOn = 0;
+            constexpr LRESULT refuse = 1;
+            if (attached && !refusedByOthers) {
+                return goOn;
+            }
+            // The window that is refused here ends without a message.
+            window.UnsubclassWindow();
+            state.creatingWindow = &window;
+            return refuse;
         }
     }
     return CallNextHookEx(hook, code, wParam, lParam);
 }
 
+bool WindowDispatch::attachGuarded(CWnd& window, HWND handle, const CREATESTRUCT* creation) {
+    try {
+        attach(window, handle);
+        return true;
+    } catch (...) {
+        // To those who are told it is the creation that failed.
+        answerToException({handle, WM_CREATE, 0, reinterpret_cast<LPARAM>(creation), 0, {}});
+        return false;
+    }
+}
+
 void WindowDispatch::attach(CWnd& window, HWND handle) {
     window.Attach(handle);
-    window.PreSubclassWindow();
+    try {
+        window.PreSubclassWindow();
+    } catch (...) {
+        window.Detach();
+        throw;
+    }
     const auto original =
         reinterpret_cast<WNDPROC>(SetWindowLongPtrW(handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
     window.m_pfnSuper = original != &AfxWndProc ? original : nullptr;
@@ -106,9 +136,8 @@ LRESULT WindowDispatch::call(CWnd* window, HWND handle, UINT message, WPARAM wPa
     if (message == WM_INITDIALOG) {
         const AutoCenter center(handle);
         const LRESULT result = callGuarded(window, msg);
-        if (WindowMap::ofThread().fromHandlePermanent(handle) == window && center.wanted() &&
-            window->CheckAutoCenter()) {
-            window->CenterWindow();
+        if (WindowMap::ofThread().fromHandlePermanent(handle) == window && center.wanted()) {
+            centerGuarded(*window, msg);
         }
         return result;
     }
@@ -116,10 +145,21 @@ LRESULT WindowDispatch::call(CWnd* window, HWND handle, UINT message, WPARAM wPa
     if (message == WM_NCDESTROY) {
         // A handler that did not call its base leaves the object tied to a handle that is about to be reused.
         if (CWnd* left = WindowMap::ofThread().fromHandlePermanent(handle)) {
+            left->leaveThread();
             left->Detach();
         }
     }
     return result;
+}
+
+void WindowDispatch::centerGuarded(CWnd& window, const MSG& message) {
+    try {
+        if (window.CheckAutoCenter()) {
+            window.CenterWindow();
+        }
+    } catch (...) {
+        answerToException(message);
+    }
 }
 
 LRESULT WindowDispatch::callGuarded(CWnd* window, const MSG& message) {

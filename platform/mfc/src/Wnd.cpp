@@ -40,22 +40,12 @@ BOOL CWnd::operator==(const CWnd& wnd) const {
 }
 
 BOOL CWnd::Attach(HWND hWndNew) {
-    if (hWndNew == nullptr) {
-        return FALSE;
-    }
-    WindowMap::ofThread().setPermanent(hWndNew, this);
-    m_hWnd = hWndNew;
-    return TRUE;
+    return WindowMap::ofThread().attach(*this, hWndNew);
 }
 
 HWND CWnd::Detach() {
-    HWND handle = m_hWnd;
-    if (handle != nullptr) {
-        WindowMap::ofThread().removePermanent(handle);
-        m_hWnd = nullptr;
-    }
     m_pfnSuper = nullptr;
-    return handle;
+    return WindowMap::ofThread().detach(*this);
 }
 
 BOOL CWnd::SubclassWindow(HWND hWnd) {
@@ -114,15 +104,11 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
         PostNcDestroy();
         return FALSE;
     }
-    WindowDispatch::hookCreation(this);
-    HWND made = ::CreateWindowExW(wanted.dwExStyle, wanted.lpszClass, wanted.lpszName, static_cast<DWORD>(wanted.style),
-                                  wanted.x, wanted.y, wanted.cx, wanted.cy, wanted.hwndParent, wanted.hMenu,
-                                  wanted.hInstance, wanted.lpCreateParams);
-    // A window that was refused by its own WM_CREATE has ended in OnNcDestroy: this object may be gone by now.
-    if (!WindowDispatch::unhookCreation()) {
-        PostNcDestroy();
-    }
-    return made != nullptr;
+    return WindowDispatch::create(*this, [&wanted] {
+        return ::CreateWindowExW(wanted.dwExStyle, wanted.lpszClass, wanted.lpszName, static_cast<DWORD>(wanted.style),
+                                 wanted.x, wanted.y, wanted.cx, wanted.cy, wanted.hwndParent, wanted.hMenu,
+                                 wanted.hInstance, wanted.lpCreateParams);
+    });
 }
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs) {
@@ -157,6 +143,19 @@ BOOL CWnd::DestroyWindow() {
 }
 
 void CWnd::PostNcDestroy() {}
+
+void CWnd::leaveThread() {
+    if (CWinThread* thread = AfxGetThread()) {
+        if (thread->m_pMainWnd == this) {
+            thread->m_pMainWnd = nullptr;
+            AfxPostQuitMessage(0);
+        }
+        if (thread->m_pActiveWnd == this) {
+            thread->m_pActiveWnd = nullptr;
+        }
+    }
+    stopModalLoop();
+}
 
 BOOL CWnd::CheckAutoCenter() {
     return TRUE;

@@ -52,16 +52,7 @@ void CWnd::OnEndSession(BOOL) {
 }
 
 void CWnd::OnNcDestroy() {
-    if (CWinThread* thread = AfxGetThread()) {
-        if (thread->m_pMainWnd == this) {
-            thread->m_pMainWnd = nullptr;
-            AfxPostQuitMessage(0);
-        }
-        if (thread->m_pActiveWnd == this) {
-            thread->m_pActiveWnd = nullptr;
-        }
-    }
-    m_modalLoopRuns = false;
+    leaveThread();
     Default();
     UnsubclassWindow();
     PostNcDestroy();
