@@ -12,7 +12,7 @@ window=yes
 while [ $# -gt 0 ]; do
     case $1 in
         --shots)
-            if [ $# = 1 ]; then
+            if [ $# = 1 ] || [ -z "$2" ]; then
                 echo "error: --shots needs a folder" >&2
                 exit 2
             fi

@@ -2,9 +2,7 @@
 
 namespace Desk {
 
-CellWidths::CellWidths(const QuoteBook& book, CFont& font) : m_book(book) {
-    m_dc.CreateCompatibleDC(nullptr);
-    m_dc.SelectObject(&font);
+CellWidths::CellWidths(const QuoteBook& book, DeskFonts& fonts) : m_book(book), m_fonts(fonts) {
     std::array<int, QuoteColumnCount> unknown{};
     unknown.fill(NotMeasured);
     m_widths.assign(book.size(), unknown);
@@ -13,12 +11,8 @@ CellWidths::CellWidths(const QuoteBook& book, CFont& font) : m_book(book) {
 int CellWidths::of(std::size_t instrument, QuoteColumn column) {
     int& width = m_widths[instrument][static_cast<std::size_t>(column)];
     if (width == NotMeasured)
-        width = of(m_book.text(instrument, column));
+        width = m_fonts.widthOf(m_book.text(instrument, column));
     return width;
-}
-
-int CellWidths::of(const std::wstring& text) {
-    return m_dc.GetTextExtent(text.c_str(), static_cast<int>(text.size())).cx;
 }
 
 void CellWidths::forget(std::size_t instrument, QuoteColumn column) {

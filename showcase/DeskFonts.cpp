@@ -2,8 +2,6 @@
 
 #include <XTToolkitPro.h>
 
-#include "ScopedSelection.h"
-
 namespace Desk {
 
 namespace {
@@ -27,11 +25,15 @@ DeskFonts::DeskFonts() {
     create(m_text, TextHeight, FW_NORMAL);
     create(m_bold, TextHeight, FW_BOLD);
     create(m_headerStrut, HeaderStrutHeight, FW_NORMAL);
-    CClientDC screen(nullptr);
-    const ScopedSelection selected(screen, m_text);
+    m_measuring.CreateCompatibleDC(nullptr);
+    m_measuring.SelectObject(&m_text);
     TEXTMETRICW metrics{};
-    screen.GetTextMetrics(&metrics);
+    m_measuring.GetTextMetrics(&metrics);
     m_lineHeight = metrics.tmHeight;
+}
+
+int DeskFonts::widthOf(std::wstring_view text) {
+    return m_measuring.GetTextExtent(text.data(), static_cast<int>(text.size())).cx;
 }
 
 int scaled(int length) {

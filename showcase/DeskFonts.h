@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include <afxwin.h>
 
 namespace Desk {
@@ -15,11 +17,14 @@ public:
     CFont& headerStrut() { return m_headerStrut; }
     /// The height of a line of `text()`, in pixels.
     int lineHeight() const { return m_lineHeight; }
+    /// How wide a text is in `text()`, in pixels.
+    int widthOf(std::wstring_view text);
 
 private:
     CFont m_text;
     CFont m_bold;
     CFont m_headerStrut;
+    CDC m_measuring; ///< holds `text()`
     int m_lineHeight = 0;
 };
 

@@ -45,20 +45,14 @@ const MenuLine* DeskMenu::lineOf(ULONG_PTR itemData) const {
     return m_lines && itemData >= 1 && itemData <= m_lines->size() ? &(*m_lines)[itemData - 1] : nullptr;
 }
 
-int DeskMenu::textWidth(const std::wstring& text) const {
-    CClientDC screen(nullptr);
-    const ScopedSelection selected(screen, m_fonts.text());
-    return screen.GetTextExtent(text.c_str(), static_cast<int>(text.size())).cx;
-}
-
 bool DeskMenu::measure(MEASUREITEMSTRUCT& item) {
     const MenuLine* line = lineOf(item.itemData);
     if (item.CtlType != ODT_MENU || !line)
         return false;
     item.itemHeight =
         static_cast<UINT>(line->text.empty() ? scaled(SeparatorHeight) : m_fonts.lineHeight() + 2 * scaled(LineMargin));
-    const int keys = line->keys.empty() ? 0 : scaled(KeysGap) + textWidth(line->keys);
-    item.itemWidth = static_cast<UINT>(scaled(CheckRoom) + textWidth(line->text) + keys + scaled(LineMargin));
+    const int keys = line->keys.empty() ? 0 : scaled(KeysGap) + m_fonts.widthOf(line->keys);
+    item.itemWidth = static_cast<UINT>(scaled(CheckRoom) + m_fonts.widthOf(line->text) + keys + scaled(LineMargin));
     return true;
 }
 

@@ -3,6 +3,8 @@
 #include <OrtinFoundation/Settings.h>
 #include <shlobj.h>
 
+#include <filesystem>
+
 namespace Desk {
 
 namespace {
@@ -12,6 +14,34 @@ constexpr char LockedNode[] = "locked-columns";
 constexpr char ThemeNode[] = "theme";
 const std::string BlackTheme = "black";
 const std::string WhiteTheme = "white";
+
+/// Leaves the tree empty if there is no file.
+ParameterStatus loadTree(const std::wstring& file, Settings& tree) {
+    const ParameterStatus status = tree.LoadFromFile(file);
+    return status.GetCode() == Settings::FileNotFound ? ParameterStatus() : status;
+}
+
+/// The columns stand under their places, 0, 1 and so on.
+bool isPlace(const std::string& name) {
+    return !name.empty() && name.find_first_not_of("0123456789") == std::string::npos;
+}
+
+ColumnLayout columnsOf(const Settings& node) {
+    ColumnLayout columns;
+    for (const std::string& name : node.GetChildNames())
+        if (isPlace(name))
+            columns.push_back(arrangedColumnFromText(static_cast<const std::string&>(node[name])));
+    return columns;
+}
+
+void replaceColumns(Settings& node, const ColumnLayout& columns) {
+    const ColumnLayout all = withForeignColumns(columns, columnsOf(node));
+    for (const std::string& name : node.GetChildNames())
+        if (isPlace(name))
+            node.RemoveChild(name);
+    for (std::size_t position = 0; position < all.size(); ++position)
+        node[std::to_string(position)] = arrangedColumnText(all[position]);
+}
 
 } // namespace
 
@@ -25,25 +55,32 @@ std::wstring defaultSettingsFile() {
 }
 
 ParameterStatus loadSettings(const std::wstring& file, DeskSettings& settings) {
-    Settings loaded;
-    ParameterStatus status = loaded.LoadFromFile(file);
+    const std::filesystem::path folder = std::filesystem::path(file).parent_path();
+    std::error_code error;
+    if (!folder.empty() && !std::filesystem::is_directory(folder, error))
+        return {Settings::FileNotWritable, file + L": nie ma takiego folderu; utwórz go albo podaj inny plik"};
+    Settings tree;
+    const ParameterStatus status = loadTree(file, tree);
     if (!status.IsSuccess())
-        return status.GetCode() == Settings::FileNotFound ? ParameterStatus() : status;
+        return status;
 
-    const Settings& tree = loaded;
-    settings.columns.clear();
-    for (const std::string& name : tree[ColumnsNode].GetChildNames())
-        settings.columns.push_back(arrangedColumnFromText(static_cast<const std::string&>(tree[ColumnsNode][name])));
-    settings.lockedColumns = tree[LockedNode].GetBool(settings.lockedColumns);
-    if (static_cast<const std::string&>(tree[ThemeNode]) == BlackTheme)
+    const Settings& kept = tree;
+    if (kept.HasChild(ColumnsNode))
+        settings.columns = columnsOf(kept[ColumnsNode]);
+    settings.lockedColumns = kept[LockedNode].GetBool(settings.lockedColumns);
+    const std::string& theme = kept[ThemeNode];
+    if (theme == BlackTheme)
         settings.theme = DeskTheme::Black;
+    else if (theme == WhiteTheme)
+        settings.theme = DeskTheme::White;
     return status;
 }
 
 ParameterStatus saveSettings(const std::wstring& file, const DeskSettings& settings) {
     Settings tree;
-    for (std::size_t position = 0; position < settings.columns.size(); ++position)
-        tree[ColumnsNode][std::to_string(position)] = arrangedColumnText(settings.columns[position]);
+    if (ParameterStatus status = loadTree(file, tree); !status.IsSuccess())
+        return status;
+    replaceColumns(tree[ColumnsNode], settings.columns);
     tree[LockedNode].SetBool(settings.lockedColumns);
     tree[ThemeNode] = settings.theme == DeskTheme::Black ? BlackTheme : WhiteTheme;
     return tree.SaveToFile(file);

@@ -19,8 +19,10 @@ struct DeskSettings {
 /// The file in the user's application data; its folder is made if there is none. Empty if Windows knows no such place.
 std::wstring defaultSettingsFile();
 
-/// Fills `settings` from the file; what the file does not say stays. A file that is not there is no failure.
+/// Fills `settings` from the file; what the file does not say stays. A file that is not there is no failure, a folder
+/// that is not there is one: nothing could be kept.
 ParameterStatus loadSettings(const std::wstring& file, DeskSettings& settings);
+/// Puts `settings` into the file and leaves what else stands there as it is. A file that cannot be read is not written.
 ParameterStatus saveSettings(const std::wstring& file, const DeskSettings& settings);
 
 } // namespace Desk

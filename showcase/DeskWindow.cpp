@@ -171,6 +171,7 @@ void DeskWindow::saveSettingsOnce() {
     const ParameterStatus status = saveSettings(m_settingsFile, m_settings);
     if (!status.IsSuccess())
         printError(status.GetMessageText());
+    m_settingsAreKept = status.IsSuccess();
     m_settingsFile.clear();
 }
 

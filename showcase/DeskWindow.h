@@ -16,6 +16,7 @@
 #include "StatusLine.h"
 #include "TickFeed.h"
 #include "TopStrip.h"
+#include "core/Commands.h"
 
 namespace Desk {
 
@@ -30,6 +31,9 @@ public:
     BOOL open();
     /// Starts the quotes ticking.
     void startTicks(int ticksPerSecond);
+
+    /// False once keeping the settings has failed.
+    bool settingsAreKept() const { return m_settingsAreKept; }
 
     QuotesTable& table() { return m_table; }
     TopStrip& strip() { return m_strip; }
@@ -79,11 +83,17 @@ private:
 
     bool isBody(HWND window) { return window == m_body->GetSafeHwnd(); }
     bool forwardWheel(const MSG& message);
+    KeyPlace placeOf(HWND window);
     bool runShortcut(const MSG& message);
+    bool moveFocus(WPARAM key, KeyPlace place);
+    void run(Command command);
+    bool runChosen(UINT chosen);
     bool typeIntoFindBox(const MSG& message);
     void focusTable();
     void showRowMenu(CPoint screen);
     void showHeaderMenu(CPoint screen);
+    void turnColumn(int id);
+    void fitAllColumns();
 
     DeskFonts m_fonts;
     QuoteBook m_book;
@@ -97,6 +107,7 @@ private:
     StatusLine m_status;
     DeskMenu m_menu;
     std::unique_ptr<TickFeed> m_feed;
+    bool m_settingsAreKept = true;
     bool m_fading = false;
     bool m_autoscroll = false;
 };

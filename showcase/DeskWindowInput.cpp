@@ -2,20 +2,20 @@
 #include "DeskWindow.h"
 
 #include <OrtinControls/CtrlsTools.h>
-#include <OrtinFoundation/Keyboard.h>
+
+#include "KeyPresses.h"
 
 namespace Desk {
 
 namespace {
 
-enum Command : UINT {
-    CopyRows = 1,
-    CopyColumn,
-    SelectAll,
-    Find,
-    FitAllColumns,
-    FirstColumn = 100,
-};
+/// Menus choose commands by their number from 1, and columns behind them.
+constexpr UINT FirstCommand = 1;
+constexpr UINT FirstColumn = 1000;
+
+MenuLine lineOf(Command command, const wchar_t* text, bool enabled = true) {
+    return {FirstCommand + static_cast<UINT>(command), text, keysOf(command), false, enabled};
+}
 
 } // namespace
 
@@ -43,23 +43,29 @@ bool DeskWindow::forwardWheel(const MSG& message) {
     return true;
 }
 
+KeyPlace DeskWindow::placeOf(HWND window) {
+    if (isBody(window))
+        return KeyPlace::Rows;
+    return window == m_strip.findBox().GetSafeHwnd() ? KeyPlace::FindBox : KeyPlace::Elsewhere;
+}
+
 bool DeskWindow::runShortcut(const MSG& message) {
-    const bool control = OrtinTools::Keyboard::IsCtrlPressed() && !OrtinTools::Keyboard::IsAltPressed();
-    const bool inBody = isBody(message.hwnd);
-    const bool inFindBox = message.hwnd == m_strip.findBox().GetSafeHwnd();
-    switch (message.wParam) {
-    case VK_F3:
-        onFindNext(!OrtinTools::Keyboard::IsShiftPressed());
+    const KeyPlace place = placeOf(message.hwnd);
+    if (const std::optional<Command> command = commandOf(keyPressOf(message, place))) {
+        run(*command);
         return true;
-    case VK_RETURN:
-        if (!inFindBox)
-            return false;
-        onFindNext(!OrtinTools::Keyboard::IsShiftPressed());
-        return true;
+    }
+    return moveFocus(message.wParam, place);
+}
+
+/// Escape leaves the search, Tab goes between it and the rows, Down goes from it into the rows.
+bool DeskWindow::moveFocus(WPARAM key, KeyPlace place) {
+    const bool inFindBox = place == KeyPlace::FindBox;
+    switch (key) {
     case VK_ESCAPE:
         if (inFindBox)
             m_strip.findBox().empty();
-        else if (inBody)
+        else if (place == KeyPlace::Rows)
             m_handler.collapseSelection();
         focusTable();
         return true;
@@ -73,22 +79,39 @@ bool DeskWindow::runShortcut(const MSG& message) {
         if (inFindBox)
             focusTable();
         return inFindBox;
-    case 'F':
-        if (control)
-            m_strip.findBox().edit();
-        return control;
-    case 'C':
-        if (control && inBody)
-            m_handler.CopySelectionToClipboard(OrtinTools::Keyboard::IsShiftPressed());
-        return control && inBody;
-    case 'A':
-        if (control && inBody)
-            m_handler.selectAllRows();
-        if (control && inFindBox)
-            m_strip.findBox().edit();
-        return control;
     default:
         return false;
+    }
+}
+
+void DeskWindow::run(Command command) {
+    switch (command) {
+    case Command::CopyRows:
+    case Command::CopyColumn:
+        m_handler.CopySelectionToClipboard(command == Command::CopyColumn);
+        break;
+    case Command::SelectAll:
+        m_handler.selectAllRows();
+        break;
+    case Command::Find:
+        m_strip.findBox().edit();
+        break;
+    case Command::FindNext:
+    case Command::FindPrevious:
+        onFindNext(command == Command::FindNext);
+        break;
+    case Command::SwitchAutoscroll:
+        onSwitch(StripSwitch::Autoscroll);
+        break;
+    case Command::SwitchLockedColumns:
+        onSwitch(StripSwitch::LockedColumns);
+        break;
+    case Command::SwitchTheme:
+        onSwitch(StripSwitch::BlackTheme);
+        break;
+    case Command::FitAllColumns:
+        fitAllColumns();
+        break;
     }
 }
 
@@ -118,27 +141,30 @@ void DeskWindow::OnActivate(UINT state, CWnd* other, BOOL minimized) {
 
 // Menus
 
+/// False if the user has chosen no command.
+bool DeskWindow::runChosen(UINT chosen) {
+    if (chosen < FirstCommand || chosen >= FirstColumn)
+        return false;
+    run(static_cast<Command>(chosen - FirstCommand));
+    return true;
+}
+
 void DeskWindow::showRowMenu(CPoint screen) {
+    // The keyboard names no place: the menu belongs to the caret row then.
     if (screen == CPoint(-1, -1)) {
-        const CRect row = m_handler.rowRectangle(std::max(m_handler.GetSelectedItem(), 0));
+        const CRect row = m_handler.caretRectangleInView();
         screen = CPoint(row.left + scaled(40), row.bottom);
         m_body->ClientToScreen(&screen);
     }
     const bool anyRow = m_handler.selection().count() > 0;
-    const UINT command = m_menu.choose(*this, screen,
-                                       {
-                                           {CopyRows, L"Kopiuj wiersze", L"Ctrl+C", false, anyRow},
-                                           {CopyColumn, L"Kopiuj tylko tę kolumnę", L"Ctrl+Shift+C", false, anyRow},
-                                           {},
-                                           {SelectAll, L"Zaznacz wszystkie", L"Ctrl+A"},
-                                           {Find, L"Znajdź", L"Ctrl+F"},
-                                       });
-    if (command == CopyRows || command == CopyColumn)
-        m_handler.CopySelectionToClipboard(command == CopyColumn);
-    else if (command == SelectAll)
-        m_handler.selectAllRows();
-    else if (command == Find)
-        m_strip.findBox().edit();
+    runChosen(m_menu.choose(*this, screen,
+                            {
+                                lineOf(Command::CopyRows, L"Kopiuj wiersze", anyRow),
+                                lineOf(Command::CopyColumn, L"Kopiuj tylko tę kolumnę", anyRow),
+                                {},
+                                lineOf(Command::SelectAll, L"Zaznacz wszystkie"),
+                                lineOf(Command::Find, L"Znajdź"),
+                            }));
 }
 
 void DeskWindow::showHeaderMenu(CPoint screen) {
@@ -151,20 +177,24 @@ void DeskWindow::showHeaderMenu(CPoint screen) {
                          !visible || m_table.GetVisibleColumnCount() > 1});
     }
     lines.push_back({});
-    lines.push_back({FitAllColumns, L"Dopasuj szerokości"});
+    lines.push_back(lineOf(Command::FitAllColumns, L"Dopasuj szerokości"));
 
-    const UINT command = m_menu.choose(*this, screen, lines);
-    if (command >= FirstColumn) {
-        const int id = static_cast<int>(command - FirstColumn);
-        m_table.ShowColumn(id, !m_table.GetColumnVisibility(id));
-        m_handler.searchAgain();
-        m_table.Redraw();
-    } else if (command == FitAllColumns) {
-        for (int position = 0; position < m_table.GetColumnCount(); ++position)
-            if (const int id = m_table.GetColumnId(position); m_table.GetColumnVisibility(id))
-                m_table.TrackColumnWidthChangeBorderDblClk(id);
-        m_table.Redraw();
-    }
+    const UINT chosen = m_menu.choose(*this, screen, lines);
+    if (!runChosen(chosen) && chosen >= FirstColumn)
+        turnColumn(static_cast<int>(chosen - FirstColumn));
+}
+
+void DeskWindow::turnColumn(int id) {
+    m_table.ShowColumn(id, !m_table.GetColumnVisibility(id));
+    m_handler.searchAgain();
+    m_table.Redraw();
+}
+
+void DeskWindow::fitAllColumns() {
+    for (int position = 0; position < m_table.GetColumnCount(); ++position)
+        if (const int id = m_table.GetColumnId(position); m_table.GetColumnVisibility(id))
+            m_table.TrackColumnWidthChangeBorderDblClk(id);
+    m_table.Redraw();
 }
 
 void DeskWindow::OnMeasureItem(int control, LPMEASUREITEMSTRUCT item) {

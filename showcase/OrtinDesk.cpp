@@ -64,19 +64,30 @@ std::vector<Instrument> loadInstruments(const DeskOptions& options) {
     }
 }
 
-Start prepare(const DeskOptions& options) {
-    Start start;
-    start.instruments = loadInstruments(options);
+/// Where settings are kept, and what is kept there.
+void takeSettings(const DeskOptions& options, Start& start) {
     if (options.settings) {
         start.settingsFile = *options.settings;
         const ParameterStatus status = loadSettings(start.settingsFile, start.settings);
         if (!status.IsSuccess())
             throw Refusal{status.GetMessageText(), BadInputExitCode};
-    } else if (!options.shots) {
-        // A file of our own that has become unreadable must not keep the user out.
-        start.settingsFile = defaultSettingsFile();
-        loadSettings(start.settingsFile, start.settings);
+        return;
     }
+    const std::wstring own = options.shots ? std::wstring() : defaultSettingsFile();
+    if (own.empty())
+        return;
+    const ParameterStatus status = loadSettings(own, start.settings);
+    // A file of our own that has become unreadable must neither keep the user out nor be lost.
+    if (status.IsSuccess())
+        start.settingsFile = own;
+    else
+        printError(status.GetMessageText() + L"; plik zostaje, a nowe ustawienia nie będą zapamiętane");
+}
+
+Start prepare(const DeskOptions& options) {
+    Start start;
+    start.instruments = loadInstruments(options);
+    takeSettings(options, start);
     if (options.theme)
         start.settings.theme = *options.theme;
     if (options.shots) {
@@ -169,6 +180,8 @@ void DeskApp::refuse(const Refusal& refusal) {
 
 int DeskApp::ExitInstance() {
     const int code = CWinApp::ExitInstance();
+    if (m_desk && !m_desk->settingsAreKept())
+        m_exitCode = 1;
     m_desk.reset();
     m_gdiplus.reset();
     return m_exitCode != 0 ? m_exitCode : code;

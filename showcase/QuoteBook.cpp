@@ -13,8 +13,6 @@ std::wstring cellText(QuoteColumn column, const Instrument& instrument) {
     return figureText(column, instrument);
 }
 
-constexpr std::array ColumnsOfPrice{QuoteColumn::Price, QuoteColumn::Range52Weeks};
-
 } // namespace
 
 QuoteBook::QuoteBook(std::vector<Instrument> instruments)
@@ -40,8 +38,8 @@ std::vector<std::optional<double>> QuoteBook::prices() const {
 
 void QuoteBook::setPrice(std::size_t instrument, double price) {
     m_instruments[instrument].price = price;
-    for (const QuoteColumn column : ColumnsOfPrice)
-        m_texts[instrument][static_cast<std::size_t>(column)] = cellText(column, m_instruments[instrument]);
+    m_texts[instrument][static_cast<std::size_t>(QuoteColumn::Price)] =
+        cellText(QuoteColumn::Price, m_instruments[instrument]);
 }
 
 bool QuoteBook::isKnown(std::size_t instrument, QuoteColumn column) const {

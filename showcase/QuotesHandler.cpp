@@ -39,7 +39,7 @@ QuotesHandler::QuotesHandler(QuoteBook& book, DeskFonts& fonts, QuotesEvents& ev
     : m_book(book),
       m_fonts(fonts),
       m_events(events),
-      m_widths(book, fonts.text()),
+      m_widths(book, fonts),
       m_painter(book, m_widths, fonts) {}
 
 // Columns and rows
@@ -91,6 +91,10 @@ std::vector<QuoteColumn> QuotesHandler::visibleColumns() const {
     return columns;
 }
 
+int QuotesHandler::idOf(QuoteColumn column) const {
+    return static_cast<int>(std::find(m_columns.begin(), m_columns.end(), column) - m_columns.begin());
+}
+
 std::size_t QuotesHandler::instrumentAt(int row) const {
     return static_cast<std::size_t>(m_view->GetItemData(row) - 1);
 }
@@ -117,6 +121,8 @@ void QuotesHandler::PrepareDraw() {
     m_list->GetClientRect(&client);
     m_cells.clear();
     m_drawnRows.clear();
+    // Whatever made the view stale had it redrawn whole: this paint shows it.
+    m_viewIsStale = false;
     int left = 0;
     for (int position = 0; position < m_view->GetColumnCount(); ++position) {
         const int id = m_view->GetColumnId(position);
@@ -173,13 +179,10 @@ int QuotesHandler::ComputeItemHeight(int) {
 void QuotesHandler::RefreshView() {
     if (!m_list || !m_list->GetSafeHwnd())
         return;
-    if (m_markedInstrument && !m_autoscroll) {
-        const CRect strip = rowRectangle(m_rows[*m_markedInstrument]);
-        m_list->InvalidateRect(&strip, FALSE);
-    } else if (m_viewIsStale || m_markedInstrument) {
-        m_viewIsStale = false;
+    for (const CRect& cell : m_markedCells)
+        m_list->InvalidateRect(&cell, FALSE);
+    if (m_viewIsStale)
         m_list->Invalidate(FALSE);
-    }
 }
 
 CRect QuotesHandler::rowRectangle(int row) const {
@@ -190,20 +193,41 @@ CRect QuotesHandler::rowRectangle(int row) const {
     return rect;
 }
 
+CRect QuotesHandler::caretRectangleInView() {
+    const int row = std::max(m_selection.caret(), 0);
+    m_view->SetCarretIndex(row);
+    repaintAll();
+    m_list->UpdateWindow();
+    CRect view;
+    m_list->GetClientRect(&view);
+    // Running rows are not where the scroll position says.
+    CRect rect = rowRectangle(row);
+    rect.top = std::clamp(rect.top, view.top, view.bottom);
+    rect.bottom = std::clamp(rect.bottom, view.top, view.bottom);
+    return rect;
+}
+
 void QuotesHandler::repaintAll() {
     m_viewIsStale = true;
     m_view->InvalidateView(0);
 }
 
-void QuotesHandler::repaintInstrument(std::size_t instrument) {
-    m_markedInstrument = instrument;
+/// The table draws a marked row whole into its memory of the screen; only these cells of it go to the screen.
+void QuotesHandler::repaintCells(std::size_t instrument, std::span<const QuoteColumn> columns) {
+    // Rows that run are painted all the time.
+    if (!m_autoscroll) {
+        const CRect row = rowRectangle(m_rows[instrument]);
+        for (const CellSpan& cell : m_cells)
+            if (std::find(columns.begin(), columns.end(), cell.column) != columns.end())
+                m_markedCells.emplace_back(cell.left, row.top, cell.right, row.bottom);
+    }
     m_view->InvalidateView(dataOf(instrument));
-    m_markedInstrument.reset();
+    m_markedCells.clear();
 }
 
 int QuotesHandler::GetOptimalColumnWidth(int id) {
     const QuoteColumn column = columnOf(id);
-    int widest = m_widths.of(infoOf(column).title) + scaled(SortArrowRoom);
+    int widest = m_fonts.widthOf(infoOf(column).title) + scaled(SortArrowRoom);
     for (std::size_t instrument = 0; instrument < m_book.size(); ++instrument)
         widest = std::max(widest, m_widths.of(instrument, column));
     return m_painter.cellWidthFor(widest);
@@ -221,7 +245,10 @@ __int64 QuotesHandler::GetToolTip(CRect& rect, CString& text) {
     // The range is drawn as a bar: its figures show only here.
     if (span.column != QuoteColumn::Range52Weeks && !m_painter.isCutOff(instrument, span))
         return -1;
-    text = m_book.text(instrument, span.column).c_str();
+    const std::wstring& cellText = m_book.text(instrument, span.column);
+    if (cellText.empty())
+        return -1;
+    text = cellText.c_str();
     rect = rowRectangle(row);
     rect.left = span.left;
     rect.right = span.right;
@@ -266,11 +293,8 @@ int QuotesHandler::OnKey(unsigned int) {
 }
 
 void QuotesHandler::OnItemClick(int row, const CPoint& local, bool extend, unsigned int flags) {
-    if (const std::optional<std::size_t> cell = cellAt(local.x)) {
-        const QuoteColumn column = m_cells[*cell].column;
-        m_selectedColumnId =
-            static_cast<int>(std::find(m_columns.begin(), m_columns.end(), column) - m_columns.begin());
-    }
+    if (const std::optional<std::size_t> cell = cellAt(local.x))
+        m_selectedColumnId = idOf(m_cells[*cell].column);
     if (m_autoscroll)
         row = rowUnder(rowRectangle(row).top + local.y);
     const bool control = (flags & MK_CONTROL) != 0;
@@ -312,6 +336,7 @@ void QuotesHandler::SelectPosition(int column, int row) {
     if (row != m_selection.caret())
         m_selection.select(row);
     selectionChanged();
+    repaintAll();
 }
 
 CPoint QuotesHandler::GetSelectedPosition() {
@@ -324,7 +349,7 @@ CPoint QuotesHandler::GetSelectedPositionStart() {
 
 CPoint QuotesHandler::GetCell(int row, const CPoint& local) {
     const std::optional<std::size_t> cell = cellAt(local.x);
-    return CPoint(cell ? static_cast<int>(*cell) : -1, row);
+    return CPoint(cell ? m_view->GetColumnIdxFromId(idOf(m_cells[*cell].column)) : -1, row);
 }
 
 void QuotesHandler::GetCarretOffset(int& top, int& bottom) {

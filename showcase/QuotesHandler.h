@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include <OrtinControls/ITableHandler.h>
@@ -62,8 +63,8 @@ public:
 
     void setAutoscroll(bool on);
     void repaintAll();
-    /// Where a row lies in the view, for menus that belong to it.
-    CRect rowRectangle(int row) const;
+    /// Scrolls the caret row into view and tells where it lies there.
+    CRect caretRectangleInView();
 
     // ITableHandler: drawing
     int DrawItem(CDC& dc, int row, const CRect& rect) override;
@@ -130,11 +131,13 @@ private:
     std::vector<QuoteColumn> visibleColumns() const;
     std::vector<std::size_t> selectedInstruments() const;
     void noteRows();
+    CRect rowRectangle(int row) const;
+    int idOf(QuoteColumn column) const;
     void stepColumn(int direction);
     void selectionChanged();
     bool showFoundRow(std::optional<int> row);
     void search(const std::wstring& phrase);
-    void repaintInstrument(std::size_t instrument);
+    void repaintCells(std::size_t instrument, std::span<const QuoteColumn> columns);
     void drawCaret(CDC& dc, const CRect& rowRect);
     int rowUnder(int y) const;
 
@@ -158,8 +161,8 @@ private:
     TickBatch m_ticks;
     PriceFlashes m_flashes;
     bool m_autoscroll = false;
-    /// What `RefreshView` has to repaint: one row that is being marked, or all.
-    std::optional<std::size_t> m_markedInstrument;
+    /// What `RefreshView` has to repaint: cells of a row that is being marked, or all.
+    std::vector<CRect> m_markedCells;
     bool m_viewIsStale = false;
 };
 

@@ -11,6 +11,12 @@
 
 namespace Desk {
 
+namespace {
+
+constexpr std::array FlashingColumns{QuoteColumn::Price};
+
+} // namespace
+
 // Search
 
 void QuotesHandler::SetFindMode(int mode) {
@@ -135,7 +141,7 @@ void QuotesHandler::OnTableViewDataChanged() {
         m_book.setPrice(tick.instrument, tick.price);
         m_widths.forget(tick.instrument, QuoteColumn::Price);
         m_flashes.strike(tick.instrument, !before || tick.price >= *before, now);
-        repaintInstrument(tick.instrument);
+        repaintCells(tick.instrument, ColumnsOfPrice);
     }
     if (!ticks.empty())
         m_events.onTicked(ticks.back());
@@ -143,7 +149,7 @@ void QuotesHandler::OnTableViewDataChanged() {
 
 bool QuotesHandler::fadeFlashes(std::int64_t now) {
     for (const std::size_t instrument : m_flashes.advance(now))
-        repaintInstrument(instrument);
+        repaintCells(instrument, FlashingColumns);
     return !m_flashes.isQuiet();
 }
 

@@ -41,8 +41,8 @@ QuotesPainter::QuotesPainter(const QuoteBook& book, CellWidths& widths, DeskFont
       m_fonts(fonts),
       m_rowHeight(fonts.lineHeight() + 2 * scaled(RowMargin)),
       m_padding(scaled(CellPadding)),
-      m_ellipsisWidth(widths.of(Ellipsis)),
-      m_dashWidth(widths.of(Dash)) {}
+      m_ellipsisWidth(fonts.widthOf(Ellipsis)),
+      m_dashWidth(fonts.widthOf(Dash)) {}
 
 int QuotesPainter::cellWidthFor(int textWidth) const {
     return textWidth + 2 * m_padding;

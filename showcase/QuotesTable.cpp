@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "DeskColors.h"
+#include "KeyPresses.h"
 #include "ScopedSelection.h"
 
 namespace Desk {
@@ -49,6 +50,13 @@ void QuotesTable::alignTitleRight(int id) {
     header()->SendMessage(HDM_GETITEMW, static_cast<WPARAM>(id), reinterpret_cast<LPARAM>(&item));
     item.fmt = (item.fmt & ~HDF_JUSTIFYMASK) | HDF_RIGHT;
     header()->SendMessage(HDM_SETITEMW, static_cast<WPARAM>(id), reinterpret_cast<LPARAM>(&item));
+}
+
+BOOL QuotesTable::PreTranslateMessage(MSG* message) {
+    if (message && message->message == WM_KEYDOWN && message->hwnd == body()->GetSafeHwnd() &&
+        searchOutlives(keyPressOf(*message, KeyPlace::Rows)))
+        return GetParent()->PreTranslateMessage(message);
+    return TableCtrl::PreTranslateMessage(message);
 }
 
 void QuotesTable::UpdateListPos() {

@@ -28,6 +28,9 @@ public:
     /// Called with the screen point of a context menu that is asked for on the header.
     std::function<void(CPoint screen)> onHeaderMenu;
 
+    /// Keeps keys that a search outlives away from the body, for which every key ends it.
+    BOOL PreTranslateMessage(MSG* message) override;
+
 protected:
     void UpdateListPos() override;
 

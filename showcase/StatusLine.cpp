@@ -37,7 +37,19 @@ void StatusLine::setField(std::size_t field, const std::wstring& text) {
     if (m_fields[field] == text)
         return;
     m_fields[field] = text;
-    Invalidate(FALSE);
+    const CRect rect = fieldRect(field);
+    InvalidateRect(&rect, FALSE);
+}
+
+CRect StatusLine::fieldRect(std::size_t field) {
+    CRect rect;
+    GetClientRect(&rect);
+    rect.DeflateRect(scaled(SideMargin), 1, scaled(SideMargin), 0);
+    const LONG end = rect.right;
+    rect.left = std::min(end, rect.left + static_cast<LONG>(field) * scaled(FieldWidth));
+    if (field + 1 < FieldCount)
+        rect.right = std::min(end, rect.left + scaled(FieldWidth) - scaled(SideMargin));
+    return rect;
 }
 
 void StatusLine::OnPaint() {
@@ -52,14 +64,10 @@ void StatusLine::OnPaint() {
     const ScopedSelection font(dc, m_fonts.text());
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(Colors::stripText());
-    client.DeflateRect(scaled(SideMargin), 0);
     for (std::size_t field = 0; field < FieldCount; ++field) {
         const std::wstring& text = m_fields[field];
         const bool isLast = field + 1 == FieldCount;
-        CRect rect = client;
-        rect.left = std::min(client.right, client.left + static_cast<LONG>(field) * scaled(FieldWidth));
-        if (!isLast)
-            rect.right = std::min(client.right, rect.left + scaled(FieldWidth) - scaled(SideMargin));
+        CRect rect = fieldRect(field);
         dc.DrawText(text.c_str(), static_cast<int>(text.size()), &rect,
                     (isLast ? DT_RIGHT : DT_LEFT) | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | DT_NOPREFIX);
     }

@@ -27,6 +27,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    CRect fieldRect(std::size_t field);
+
     DeskFonts& m_fonts;
     std::array<std::wstring, FieldCount> m_fields;
 };

@@ -6,6 +6,7 @@
 
 #include "DeskColors.h"
 #include "ScopedSelection.h"
+#include "core/Commands.h"
 #include "core/PolishFormat.h"
 
 namespace Desk {
@@ -26,16 +27,18 @@ constexpr int KnobInset = 2;
 constexpr int SwitchPadding = 7;
 constexpr int FindBoxId = 1;
 
-constexpr std::array<const wchar_t*, StripSwitchCount> SwitchTitles{L"Autoprzewijanie", L"Stałe kolumny",
-                                                                    L"Czarny motyw"};
+struct SwitchText {
+    const wchar_t* title;
+    Command command;
+};
+
+constexpr std::array<SwitchText, StripSwitchCount> SwitchTexts{
+    SwitchText{L"Autoprzewijanie", Command::SwitchAutoscroll},
+    SwitchText{L"Stałe kolumny", Command::SwitchLockedColumns},
+    SwitchText{L"Czarny motyw", Command::SwitchTheme},
+};
 /// The widest count that keeps its place free.
 constexpr wchar_t WidestCount[] = L"9999 z 9999";
-
-int textWidth(CFont& font, const wchar_t* text) {
-    CClientDC screen(nullptr);
-    const ScopedSelection selected(screen, font);
-    return screen.GetTextExtent(text, static_cast<int>(wcslen(text))).cx;
-}
 
 void fillRound(CDC& dc, const CRect& rect, int diameter, COLORREF fill, COLORREF frame) {
     CPen pen(PS_SOLID, 1, frame);
@@ -104,10 +107,11 @@ StripSizes TopStrip::sizes() const {
     sizes.findBox = scaled(FindBoxWidth);
     sizes.leastFindBox = scaled(LeastFindBoxWidth);
     sizes.findButton = scaled(FindButtonWidth);
-    sizes.findCount = textWidth(m_fonts.text(), WidestCount);
+    sizes.findCount = m_fonts.widthOf(WidestCount);
     for (std::size_t item = 0; item < StripSwitchCount; ++item)
-        sizes.switches[item] =
-            scaled(KnobTrackWidth) + 3 * scaled(SwitchPadding) + textWidth(m_fonts.text(), SwitchTitles[item]);
+        sizes.switches[item] = scaled(KnobTrackWidth) + 4 * scaled(SwitchPadding) +
+                               m_fonts.widthOf(SwitchTexts[item].title) +
+                               m_fonts.widthOf(keysOf(SwitchTexts[item].command));
     return sizes;
 }
 
@@ -220,7 +224,10 @@ void TopStrip::drawSwitch(CDC& dc, std::size_t which) {
     rect.left = track.right + scaled(SwitchPadding);
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(Colors::stripText());
-    dc.DrawText(SwitchTitles[which], -1, &rect, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+    dc.DrawText(SwitchTexts[which].title, -1, &rect, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+    rect.right -= scaled(SwitchPadding);
+    dc.SetTextColor(Colors::mutedText());
+    dc.DrawText(keysOf(SwitchTexts[which].command), -1, &rect, DT_RIGHT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
 }
 
 BOOL TopStrip::OnEraseBkgnd(CDC*) {

@@ -53,6 +53,13 @@ ColumnLayout fittedLayout(const ColumnLayout& kept, const ColumnLayout& known) {
     return fitted;
 }
 
+ColumnLayout withForeignColumns(ColumnLayout current, const ColumnLayout& kept) {
+    for (const ArrangedColumn& column : kept)
+        if (!column.key.empty() && findKey(current, column.key) == current.end())
+            current.push_back(column);
+    return current;
+}
+
 std::string arrangedColumnText(const ArrangedColumn& column) {
     std::array<char, 64> digits{};
     const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), column.width);

@@ -27,6 +27,9 @@ inline constexpr double GreatestKeptWidth = 4000.0;
 /// least one column is visible.
 ColumnLayout fittedLayout(const ColumnLayout& kept, const ColumnLayout& known);
 
+/// `current` and behind it the columns that only another version of the desk knows: what it kept is not lost.
+ColumnLayout withForeignColumns(ColumnLayout current, const ColumnLayout& kept);
+
 /// One column as text, "name 220.5 hidden", and back; an entry without a key is what no layout can use.
 std::string arrangedColumnText(const ArrangedColumn& column);
 ArrangedColumn arrangedColumnFromText(std::string_view text);

@@ -120,13 +120,14 @@ std::variant<DeskOptions, Refusal> parseCommandLine(const std::vector<std::wstri
 }
 
 std::wstring helpText() {
-    std::wstring text = L"OrtinDesk: tabela notowań\n\n"
-                        L"  --instruments PLIK.csv  instrumenty do pokazania; bez niej dane przykładowe\n"
-                        L"  --theme white|black     motyw; bez niej ostatnio używany\n"
-                        L"  --ticks N               zmiany kursów na sekundę, losowe, ale powtarzalne\n"
-                        L"  --settings PLIK         gdzie pamiętać układ kolumn; bez niej w danych użytkownika\n"
-                        L"  --shots FOLDER          zapisz obrazy scen (PNG) i zakończ\n"
-                        L"  --scene NAZWA           z --shots: tylko jedna scena:";
+    std::wstring text =
+        L"OrtinDesk: tabela notowań\n\n"
+        L"  --instruments PLIK.csv  instrumenty do pokazania; bez niej dane przykładowe\n"
+        L"  --theme white|black     motyw; bez niej ostatnio używany; z --shots bez znaczenia\n"
+        L"  --ticks N               zmiany kursów na sekundę, losowe, ale powtarzalne; z --shots bez znaczenia\n"
+        L"  --settings PLIK         gdzie pamiętać układ kolumn; bez niej w danych użytkownika\n"
+        L"  --shots FOLDER          zapisz obrazy scen (PNG) i zakończ\n"
+        L"  --scene NAZWA           z --shots: tylko jedna scena:";
     for (const std::wstring& name : sceneNames())
         text += L"\n                            " + name;
     return text + L"\n  --help                  wypisz ten tekst\n";

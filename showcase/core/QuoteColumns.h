@@ -47,6 +47,9 @@ inline constexpr std::array QuoteColumns{
     QuoteColumnInfo{QuoteColumn::MarketCap, "market-cap", L"Kapitalizacja", 124.0, true},
 };
 
+/// What looks different with another price: the price itself and where it stands in its range.
+inline constexpr std::array ColumnsOfPrice{QuoteColumn::Price, QuoteColumn::Range52Weeks};
+
 inline constexpr std::size_t QuoteColumnCount = QuoteColumns.size();
 
 constexpr const QuoteColumnInfo& infoOf(QuoteColumn column) {

@@ -84,6 +84,15 @@ TEST(BadInput, SettingsThatAreNoneEndWithCode2AndStayAsTheyAre) {
     EXPECT_EQ(bytesOf(settings), "to nie są ustawienia\n");
 }
 
+TEST(BadInput, SettingsInAFolderThatIsNotThereEndWithCode2AtTheStart) {
+    const TemporaryFolder folder;
+    const DeskRun run = runDesk({L"--settings", folder.file(L"absent\\settings.txt").wstring()});
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_TRUE(isOneLine(run.errors)) << run.errors;
+    EXPECT_NE(run.errors.find("nie ma takiego folderu"), std::string::npos) << run.errors;
+    EXPECT_FALSE(std::filesystem::exists(folder.file(L"absent")));
+}
+
 TEST(BadInput, AStrangeOptionEndsWithCode2) {
     const DeskRun run = runDesk({L"--moon"});
     EXPECT_EQ(run.exitCode, 2);

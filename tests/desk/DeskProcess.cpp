@@ -147,16 +147,24 @@ bool eventually(const std::function<bool()>& holds) {
     return true;
 }
 
-DeskRun runDesk(const std::vector<std::wstring>& arguments) {
+DeskRun runDesk(const std::vector<std::wstring>& arguments, const std::function<void()>& whileOpen) {
     Collector output;
     Collector errors;
     const HANDLE process = createProcess(deskCommand(arguments), output.writing(), errors.writing());
     output.closeWriting();
     errors.closeWriting();
     DeskRun run;
-    std::thread reading([&] { run.output = output.all(); });
-    run.errors = errors.all();
-    reading.join();
+    std::thread readingOutput([&] { run.output = output.all(); });
+    std::thread readingErrors([&] { run.errors = errors.all(); });
+    if (whileOpen) {
+        HWND window = nullptr;
+        EXPECT_TRUE(eventually([&] { return (window = mainWindowOf(::GetProcessId(process))) != nullptr; }))
+            << "no window";
+        whileOpen();
+        ::PostMessageW(window, WM_CLOSE, 0, 0);
+    }
+    readingOutput.join();
+    readingErrors.join();
     DWORD code = 0;
     if (::WaitForSingleObject(process, 60000) != WAIT_OBJECT_0)
         ::TerminateProcess(process, 99);

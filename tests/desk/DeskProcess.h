@@ -22,8 +22,9 @@ struct DeskRun {
     std::string errors;
 };
 
-/// Starts the desk with the arguments and waits until it ends.
-DeskRun runDesk(const std::vector<std::wstring>& arguments);
+/// Starts the desk with the arguments and waits until it ends. With `whileOpen` its window is waited for and closed
+/// afterwards, as the user closes it.
+DeskRun runDesk(const std::vector<std::wstring>& arguments, const std::function<void()>& whileOpen = {});
 
 /// A desk with 60 known instruments on the screen, its client area 1000 x 600 at 96 DPI, its columns locked at known
 /// widths. What the user's eyes would tell is asked of the screen, in client coordinates of the window that is named.

@@ -45,6 +45,26 @@ TEST_F(FindByKeys, FoundLettersAreMarkedUntilTheSearchEnds) {
     EXPECT_TRUE(eventually([&] { return pixelsOf(body()).count(Marked) == 0; }));
 }
 
+TEST_F(FindByKeys, HeldKeysAndCopyingInTheRowsLeaveTheFoundLettersMarked) {
+    start();
+    support::click(cell(0, 1));
+    support::typeText(L"zub");
+    support::typeKey(VK_TAB);
+    settle();
+    const std::size_t marked = pixelsOf(body()).count(Marked);
+    EXPECT_GT(marked, 200u);
+    for (const WORD key : {VK_SHIFT, VK_CONTROL, VK_CAPITAL, VK_CAPITAL}) {
+        support::typeKey(key);
+        settle();
+        EXPECT_EQ(pixelsOf(body()).count(Marked), marked) << key;
+    }
+    EXPECT_EQ(copiedSymbols(), "S03");
+    settle();
+    EXPECT_EQ(pixelsOf(body()).count(Marked), marked);
+    support::typeKey(VK_DOWN);
+    EXPECT_TRUE(eventually([&] { return pixelsOf(body()).count(Marked) == 0; }));
+}
+
 TEST_F(FindByKeys, WhatIsNotThereLeavesTheSelectionAlone) {
     start();
     support::click(cell(5, 1));

@@ -60,6 +60,18 @@ TEST_F(LiveQuotes, AClickOnRunningRowsSelectsTheRowUnderIt) {
     EXPECT_LT(symbol, "S07");
 }
 
+TEST_F(LiveQuotes, F6SwitchesAutoscroll) {
+    start();
+    const support::Pixels before = pixelsOf(body());
+    support::typeKey(VK_F6);
+    EXPECT_TRUE(eventually([&] { return pixelsOf(body()) != before; }));
+    support::typeKey(VK_F6);
+    settle();
+    const support::Pixels after = pixelsOf(body());
+    support::pumpFor(std::chrono::milliseconds(500));
+    EXPECT_EQ(pixelsOf(body()), after);
+}
+
 TEST_F(LiveQuotes, AutoscrollRunsTheRowsUntilItIsSwitchedOff) {
     start();
     // The switch stands third from the right; its knob is found by its track's place in the strip.

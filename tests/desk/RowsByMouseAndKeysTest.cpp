@@ -116,6 +116,31 @@ TEST_F(RowsByMouseAndKeys, ARightClickOnASelectedRowKeepsTheSelectionForItsMenu)
     EXPECT_EQ(copiedSymbols(), "S02 S03 S04");
 }
 
+TEST_F(RowsByMouseAndKeys, TheMenuKeyScrollsTheCaretRowIntoViewAndOpensItsMenuThere) {
+    start();
+    support::click(cell(0, 1));
+    support::typeKey(VK_END);
+    settle();
+    const support::Pixels atTheEnd = pixelsOf(body());
+    support::turnWheel(cell(3, 1), 100 * WHEEL_DELTA);
+    settle();
+    ASSERT_NE(pixelsOf(body()), atTheEnd);
+    for (void (*const askForMenu)() : {+[] { support::typeKey(VK_APPS); },
+                                       +[] {
+                                           support::chord({VK_SHIFT, VK_F10});
+                                       }}) {
+        askForMenu();
+        HWND menu = nullptr;
+        EXPECT_TRUE(eventually([&] { return (menu = ::FindWindowW(L"#32768", nullptr)) && ::IsWindowVisible(menu); }));
+        support::typeKey(VK_ESCAPE);
+        EXPECT_TRUE(eventually([&] { return !::IsWindowVisible(menu); }));
+        settle();
+        EXPECT_EQ(pixelsOf(body()), atTheEnd);
+        support::turnWheel(cell(3, 1), 100 * WHEEL_DELTA);
+        settle();
+    }
+}
+
 TEST_F(RowsByMouseAndKeys, ATipShowsTextThatIsCutOff) {
     start();
     const auto windows = [&] {

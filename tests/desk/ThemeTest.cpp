@@ -33,6 +33,15 @@ TEST_F(Theme, TheSwitchPaintsEveryPartOfTheWindowAnewAndIsKept) {
     EXPECT_GT(pixelsOf(body()).count(RGB(0x28, 0x28, 0x28)), 1000u);
 }
 
+TEST_F(Theme, F8SwitchesItFromTheRowsAndFromTheFindBox) {
+    start();
+    support::typeKey(VK_F8);
+    EXPECT_TRUE(eventually([&] { return pixelsOf(body()).count(RGB(0x28, 0x28, 0x28)) > 1000; }));
+    support::chord({VK_CONTROL, 'F'});
+    support::typeKey(VK_F8);
+    EXPECT_TRUE(eventually([&] { return pixelsOf(body()).count(RGB(0x28, 0x28, 0x28)) < 1000; }));
+}
+
 TEST_F(Theme, TheCommandLineGoesBeforeWhatWasKept) {
     start({L"--theme", L"black"});
     EXPECT_GT(pixelsOf(body()).count(RGB(0x28, 0x28, 0x28)), 1000u);

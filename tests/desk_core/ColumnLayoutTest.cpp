@@ -58,3 +58,11 @@ TEST(ArrangedColumn, FromRubbishIsOneThatNoLayoutUses) {
             EXPECT_GE(column.width, LeastKeptWidth) << text;
     }
 }
+
+TEST(ColumnLayout, KeepsColumnsOfAnotherVersionBehindItsOwn) {
+    const ColumnLayout current{{"symbol", 80.0, true}, {"price", 90.0, false}};
+    const ColumnLayout kept{{"volume", 70.0, false}, {"price", 10.0, true}, {"", 5.0, true}, {"isin", 60.0, true}};
+    EXPECT_EQ(
+        withForeignColumns(current, kept),
+        (ColumnLayout{{"symbol", 80.0, true}, {"price", 90.0, false}, {"volume", 70.0, false}, {"isin", 60.0, true}}));
+}

@@ -83,3 +83,11 @@ TEST(CommandLine, HelpNamesEverySceneAndOption) {
         EXPECT_NE(help.find(option), std::wstring::npos);
     EXPECT_TRUE(accepted({L"--help"}).help);
 }
+
+TEST(CommandLine, HelpSaysWhatPicturesIgnore) {
+    const std::wstring help = helpText();
+    for (const wchar_t* option : {L"  --theme", L"  --ticks"}) {
+        const std::size_t at = help.find(option);
+        EXPECT_NE(help.substr(at, help.find(L'\n', at) - at).find(L"z --shots bez znaczenia"), std::wstring::npos);
+    }
+}

@@ -103,6 +103,10 @@ on_machine "$root/run.sh"
 expect "without display, Xvfb and package manager no picture is promised" 1 \
     "error: xvfb: not installed, and there is no apt-get to install it with" 2
 
+machine_without
+on_machine "$root/run.sh" --shots ''
+expect "a folder without a name ends in one clear line" 2 "error: --shots needs a folder" 1
+
 machine_without sudo
 pretend locale 'echo C'
 pretend id 'echo 1000'

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <windows.h>
+
+#include "core/Commands.h"
+
+namespace Desk {
+
+/// A WM_KEYDOWN with the keys that are held down now.
+KeyPress keyPressOf(const MSG& message, KeyPlace place);
+
+} // namespace Desk
