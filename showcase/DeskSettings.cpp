@@ -60,7 +60,7 @@ ParameterStatus loadSettings(const std::wstring& file, DeskSettings& settings) {
     if (!folder.empty() && !std::filesystem::is_directory(folder, error))
         return {Settings::FileNotWritable, file + L": nie ma takiego folderu; utwórz go albo podaj inny plik"};
     Settings tree;
-    const ParameterStatus status = loadTree(file, tree);
+    ParameterStatus status = loadTree(file, tree);
     if (!status.IsSuccess())
         return status;
 

@@ -71,7 +71,11 @@ std::wstring formatFigure(double value) {
     const std::size_t point = wholeDigits(digits);
     if (first == std::string::npos || first < point)
         return formatNumber(value, LeastDecimals);
-    return formatNumber(value, std::clamp(static_cast<int>(first - point) + 1, LeastDecimals, MostDecimals));
+    int decimals = std::clamp(static_cast<int>(first - point) + 1, LeastDecimals, MostDecimals);
+    const std::string rounded = plainDigits(std::fabs(value), decimals);
+    while (decimals > LeastDecimals && rounded[point + static_cast<std::size_t>(decimals)] == '0')
+        --decimals;
+    return formatNumber(value, decimals);
 }
 
 std::wstring formatPercent(double fraction) {

@@ -7,7 +7,7 @@ namespace Desk {
 
 /// Numbers as a Polish reader expects them: decimal comma, thousands parted by a no-break space. No locale is asked.
 std::wstring formatNumber(double value, int decimals);
-/// Two decimals; small numbers get as many more as two significant digits take, up to ten.
+/// Two decimals; small numbers get as many more as their first two digits take, up to ten, but no zeros at the end.
 std::wstring formatFigure(double value);
 /// 0.0175 is "1,75%".
 std::wstring formatPercent(double fraction);

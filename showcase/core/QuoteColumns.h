@@ -43,8 +43,8 @@ inline constexpr std::array QuoteColumns{
     QuoteColumnInfo{QuoteColumn::PriceEarnings, "price-earnings", L"C/Z", 78.0, true},
     QuoteColumnInfo{QuoteColumn::DividendYield, "dividend-yield", L"Dywidenda", 92.0, true},
     QuoteColumnInfo{QuoteColumn::EarningsPerShare, "earnings-per-share", L"Zysk/akcję", 96.0, true},
-    QuoteColumnInfo{QuoteColumn::Range52Weeks, "range-52-weeks", L"52 tygodnie", 140.0, false},
-    QuoteColumnInfo{QuoteColumn::MarketCap, "market-cap", L"Kapitalizacja", 124.0, true},
+    QuoteColumnInfo{QuoteColumn::Range52Weeks, "range-52-weeks", L"52 tygodnie", 128.0, false},
+    QuoteColumnInfo{QuoteColumn::MarketCap, "market-cap", L"Kapitalizacja", 136.0, true},
 };
 
 /// What looks different with another price: the price itself and where it stands in its range.

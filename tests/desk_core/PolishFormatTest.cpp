@@ -66,12 +66,15 @@ TEST(PolishFormat, ChoosesTheUnitOfALargeSumAfterRounding) {
 
 TEST(PolishFormat, GivesSmallFiguresTheDigitsThatTellThemFromNothing) {
     EXPECT_EQ(formatFigure(0.0), L"0,00");
-    EXPECT_EQ(formatFigure(0.004), L"0,0040");
+    EXPECT_EQ(formatFigure(0.004), L"0,004");
     EXPECT_EQ(formatFigure(-0.00123), L"-0,0012");
     EXPECT_EQ(formatFigure(0.0000004567), L"0,00000046");
     EXPECT_EQ(formatFigure(0.0000000001), L"0,0000000001");
     EXPECT_EQ(formatFigure(1e-30), L"0,00");
+    EXPECT_EQ(formatFigure(0.0049), L"0,0049");
     EXPECT_EQ(formatFigure(0.012), L"0,012");
+    EXPECT_EQ(formatFigure(0.04), L"0,04");
+    EXPECT_EQ(formatFigure(0.00996), L"0,01");
     EXPECT_EQ(formatFigure(0.1), L"0,10");
     EXPECT_EQ(formatFigure(0.999), L"1,00");
     EXPECT_EQ(formatFigure(1.001), L"1,00");
