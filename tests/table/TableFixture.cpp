@@ -124,7 +124,10 @@ void TableFixture::clickHeader(int id) const {
 }
 
 void TableFixture::paint() const {
-    ::RedrawWindow(body(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    // For no window the system would redraw everybody's.
+    if (const HWND list = body()) {
+        ::RedrawWindow(list, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    }
 }
 
 std::string TableFixture::describe() const {
