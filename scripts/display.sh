@@ -58,6 +58,8 @@ start_virtual_display() {
 # program by five, and the next program is to find it on the display it knows.
 keep_virtual_display() {
     local folder=$1 server fifo
+    # The caller's own search path may end before the display does.
+    PATH=$(command -p getconf PATH)
     exec {users}>>"$folder/display.users"
     fifo=$(mktemp -u "$folder/display.XXXXXX")
     mkfifo "$fifo"
@@ -68,16 +70,13 @@ keep_virtual_display() {
         mv "$folder/display.number.new" "$folder/display.number"
     fi
     rm -f "$fifo"
-    while kill -0 "$server" 2>/dev/null; do
-        flock "$users"
-        flock --unlock "$users"
-        sleep 10
+    while kill -0 "$server" 2>/dev/null && flock "$users" && flock --unlock "$users" && sleep 10; do
         if flock --nonblock "$users"; then
-            rm -f "$folder/display.number"
-            kill "$server" 2>/dev/null
             break
         fi
     done
+    rm -f "$folder/display.number"
+    kill "$server" 2>/dev/null
     wait "$server"
 }
 
