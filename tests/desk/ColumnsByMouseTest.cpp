@@ -117,3 +117,11 @@ TEST_F(ColumnsByMouse, TheHeaderMenuHidesAColumnAndTheNextStartKnowsIt) {
     support::click(onScreen(body(), scaled(30), rowHeight() / 2));
     EXPECT_TRUE(copied().starts_with(L"S00\tFirma 00\t100,50\t"));
 }
+
+TEST_F(ColumnsByMouse, F7UnlocksThem) {
+    start();
+    support::typeKey(VK_F7);
+    settle();
+    close();
+    EXPECT_NE(settings().find("/locked-columns=0\n"), std::string::npos) << settings();
+}
