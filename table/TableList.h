@@ -11,6 +11,7 @@
 #include <XTToolkitPro.h>
 #include <afxwin.h>
 
+#include "Pagination.h"
 #include "RepaintState.h"
 #include "RowScroll.h"
 #include "RowStore.h"
@@ -58,6 +59,10 @@ public:
     void removeRows(const std::vector<std::uint64_t>& list);
     void removeAllRows();
     void updateAllHeights();
+
+    // Printing: the pages of a height in pixels.
+    std::vector<int> pagesOfRows(int pageHeight, Pagination::RowRange range) const;
+    Pagination::VisiblePages pagesOfVisibleRows(int pageHeight) const;
 
     // Painting.
     void requestFullRedraw() { m_repaint.requestFullRedraw(); }

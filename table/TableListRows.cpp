@@ -63,6 +63,14 @@ void TableList::updateAllHeights() {
     m_scrollDirty = true;
 }
 
+std::vector<int> TableList::pagesOfRows(int pageHeight, Pagination::RowRange range) const {
+    return Pagination::byRows(m_rows.rows(), pageHeight, range);
+}
+
+Pagination::VisiblePages TableList::pagesOfVisibleRows(int pageHeight) const {
+    return Pagination::ofVisibleRows(m_rows.rows(), pageHeight, clientHeight(), effectiveScrollPos());
+}
+
 void TableList::askHeight(int row) {
     const std::uint64_t data = m_rows.data(row);
     const int height = m_handler->ComputeItemHeight(row);

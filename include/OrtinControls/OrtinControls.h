@@ -12,4 +12,5 @@
 #include <OrtinControls/PrintInfoEx.h>
 #include <OrtinControls/SystemColors.h>
 #include <OrtinControls/TableCtrl.h>
+#include <OrtinControls/TableCtrlPrintable.h>
 #include <OrtinControls/TooltipTools.h>

@@ -176,6 +176,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    friend class TableCtrlPrintable;
+
     bool createChildren();
     void createHeaderFont();
     void refreshOrderIfDirty() const;

@@ -3,44 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <map>
 #include <ostream>
 
+#include "SheetDevice.h"
 #include "support/Capture.h"
-#include "support/ImportPatch.h"
 
 namespace {
-
-/// A sheet of A4 as a device of some resolution has it.
-struct Sheet {
-    int dpi;
-    int width;
-    int height;
-};
-
-constexpr Sheet kScreen{96, 794, 1123};
-constexpr Sheet kSheets[] = {kScreen, {300, 2480, 3508}, {600, 4960, 7016}};
-
-std::map<int, int> S_caps;
-
-int WINAPI capsOfTheSheet(HDC, int index) {
-    return S_caps.at(index);
-}
-
-/// A memory device that says it is a sheet; the mapping itself is the system's own.
-class SheetDevice {
-public:
-    explicit SheetDevice(const Sheet& sheet) {
-        S_caps = {{HORZRES, sheet.width}, {VERTRES, sheet.height}, {LOGPIXELSX, sheet.dpi}, {LOGPIXELSY, sheet.dpi}};
-        m_dc.CreateCompatibleDC(nullptr);
-    }
-
-    CDC* dc() { return &m_dc; }
-
-private:
-    support::ImportPatch m_caps{::GetModuleHandleW(L"OrtinControls.dll"), "gdi32.dll", "GetDeviceCaps", capsOfTheSheet};
-    CDC m_dc;
-};
 
 class PrintInfos : public testing::Test {
 protected:
@@ -178,8 +146,7 @@ TEST_F(PrintInfos, MeasureInLogicalInchesWhateverTheDevice) {
 
 TEST_F(PrintInfos, TakeBothResolutionsOfTheDevice) {
     SheetDevice device({0, 720, 720});
-    S_caps[LOGPIXELSX] = 72;
-    S_caps[LOGPIXELSY] = 144;
+    device.setResolution(72, 144);
     m_info.PrepareDCAndPrintArea(true, device.dc(), CRect());
     EXPECT_EQ(CRect(0, 0, 960, 480), m_info.PrintAreaInObjectUnits());
 }
@@ -195,7 +162,7 @@ TEST_F(PrintInfos, FitTheWidthOfAnObjectToTheSheetWithOneScale) {
 }
 
 TEST_F(PrintInfos, BeginTheFittedAreaAtTheWindowOrigin) {
-    SheetDevice device(kScreen);
+    SheetDevice device(kScreenSheet);
     device.dc()->SetWindowOrg(50, 70);
     device.dc()->SetViewportOrg(10, 20);
     m_info.PrepareDCAndPrintArea(false, device.dc(), CRect(0, 0, 397, 1));
@@ -206,12 +173,12 @@ TEST_F(PrintInfos, BeginTheFittedAreaAtTheWindowOrigin) {
 }
 
 TEST_F(PrintInfos, LeaveTheMappingAloneForAnObjectAsWideAsTheSheet) {
-    SheetDevice device(kScreen);
+    SheetDevice device(kScreenSheet);
     device.dc()->SetMapMode(MM_LOMETRIC);
     device.dc()->SetWindowOrg(50, 70);
-    m_info.PrepareDCAndPrintArea(false, device.dc(), CRect(100, 0, 100 + kScreen.width, 1));
+    m_info.PrepareDCAndPrintArea(false, device.dc(), CRect(100, 0, 100 + kScreenSheet.width, 1));
     EXPECT_EQ(MM_LOMETRIC, device.dc()->GetMapMode());
-    EXPECT_EQ(CRect(0, 0, kScreen.width, kScreen.height), m_info.PrintAreaInObjectUnits());
+    EXPECT_EQ(CRect(0, 0, kScreenSheet.width, kScreenSheet.height), m_info.PrintAreaInObjectUnits());
 }
 
 TEST_F(PrintInfos, GiveTheSameAreaWhenAPageIsPreparedTwice) {
@@ -225,7 +192,7 @@ TEST_F(PrintInfos, GiveTheSameAreaWhenAPageIsPreparedTwice) {
 }
 
 TEST_F(PrintInfos, SurviveAnObjectWithoutWidth) {
-    SheetDevice device(kScreen);
+    SheetDevice device(kScreenSheet);
     m_info.PrepareDCAndPrintArea(false, device.dc(), CRect(5, 5, 5, 5));
     EXPECT_EQ(CPoint(0, 0), m_info.PrintAreaInObjectUnits().TopLeft());
     EXPECT_GT(m_info.PrintAreaInObjectUnits().Width(), 0);

@@ -30,6 +30,7 @@ const std::set<std::string> RecordingHandler::kQuestions{
     "GetSelectedItemStart",
     "GetSelectedPosition",
     "GetSelectedPositionStart",
+    "GetSelectedPositionStartEnd",
     "IsAutoscrollEnabled",
     "IsColumnOrderPossible",
     "IsPaintEnabled",
@@ -110,6 +111,12 @@ int RecordingHandler::DrawItem(CDC& dc, int row, const CRect& rect) {
     return height;
 }
 
+bool RecordingHandler::DrawPrintRequestedItems(int firstRow, int lastRow, const CRect& rect, const PrintInfo&,
+                                               const std::vector<std::pair<unsigned __int64, int>>& rows, CDC&) {
+    note("DrawPrintRequestedItems", firstRow, lastRow, rect.left, rect.top, rect.right, rect.bottom, rows.size());
+    return printsItself;
+}
+
 void RecordingHandler::SetTableView(ITableView* tableView) {
     view = tableView;
     note("SetTableView");
@@ -180,6 +187,11 @@ CPoint RecordingHandler::GetSelectedPosition() {
 CPoint RecordingHandler::GetSelectedPositionStart() {
     note("GetSelectedPositionStart");
     return positionStart.value_or(position);
+}
+
+std::pair<CPoint, CPoint> RecordingHandler::GetSelectedPositionStartEnd() {
+    note("GetSelectedPositionStartEnd");
+    return {positionStart.value_or(position), position};
 }
 
 void RecordingHandler::TableHandlerReservedB() {

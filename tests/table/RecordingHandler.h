@@ -22,6 +22,8 @@ public:
     std::optional<int> anchor;
     CPoint position{0, 0};
     std::optional<CPoint> positionStart;
+    /// Says that it draws printed pages itself.
+    bool printsItself = false;
     int rowHeight = 20;
     std::map<unsigned __int64, int> heights;
 
@@ -73,6 +75,8 @@ public:
     void OnMoveColumn() override;
     void OnDrawFinished(CDC& dc) override;
     int DrawItem(CDC& dc, int row, const CRect& rect) override;
+    bool DrawPrintRequestedItems(int firstRow, int lastRow, const CRect& rect, const PrintInfo& printInfo,
+                                 const std::vector<std::pair<unsigned __int64, int>>& rows, CDC& dc) override;
     void SetTableView(ITableView* tableView) override;
     int OnKey(unsigned int key, int pageRows) override;
     int OnKey(unsigned int key) override;
@@ -88,6 +92,7 @@ public:
     void SelectPosition(int column, int row) override;
     CPoint GetSelectedPosition() override;
     CPoint GetSelectedPositionStart() override;
+    std::pair<CPoint, CPoint> GetSelectedPositionStartEnd() override;
     void TableHandlerReservedB() override;
     void RefreshView() override;
     void SetListCtrl(CWnd* body) override;
