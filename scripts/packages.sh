@@ -13,6 +13,8 @@ ninja-build ninja
 ccache ccache
 g++-mingw-w64-x86-64-posix x86_64-w64-mingw32-g++-posix
 googletest /usr/src/googletest/CMakeLists.txt
+libboost1.81-dev /usr/include/boost/json/src.hpp
+libmsgsl-dev /usr/include/gsl/narrow
 END
             ;;
         test)

@@ -2,6 +2,10 @@
 
 #include <OrtinControls/CtrlsTools.h>
 #include <OrtinControls/FontsObjManager.h>
+#include <OrtinControls/GdiBrushWrapper.h>
+#include <OrtinControls/GdiFontWrapper.h>
+#include <OrtinControls/GdiPenWrapper.h>
+#include <OrtinControls/GdiTools.h>
 #include <OrtinControls/GraphicsHelper.h>
 #include <OrtinControls/IContextMenuBase.h>
 #include <OrtinControls/IPrintable.h>

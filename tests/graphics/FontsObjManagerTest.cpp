@@ -7,19 +7,11 @@
 
 #include <OrtinControls/FontsObjManager.h>
 
+#include "FontDescriptions.h"
 #include "support/ImportPatch.h"
 #include "support/Resources.h"
 
 namespace {
-
-LOGFONTW tahoma(LONG height = -11) {
-    LOGFONTW description{};
-    description.lfHeight = height;
-    description.lfWeight = FW_NORMAL;
-    description.lfCharSet = DEFAULT_CHARSET;
-    lstrcpyW(description.lfFaceName, L"Tahoma");
-    return description;
-}
 
 LOGFONTW descriptionOf(const CFont& font) {
     LOGFONTW description{};

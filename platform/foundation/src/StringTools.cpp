@@ -1,5 +1,7 @@
 #include "OrtinFoundation/StringTools.h"
 
+#include <boost/json/string.hpp>
+
 #include <windows.h>
 
 std::wstring OrtinTools::String::Utf8ToWide(std::string_view text) {
@@ -15,4 +17,8 @@ std::string OrtinTools::String::WideToUtf8(std::wstring_view text) {
     std::string utf8(static_cast<size_t>(needed), '\0');
     WideCharToMultiByte(CP_UTF8, 0, text.data(), count, utf8.data(), needed, nullptr, nullptr);
     return utf8;
+}
+
+boost::json::string OrtinTools::String::WideToJsonUtf8(std::wstring_view text) {
+    return boost::json::string(WideToUtf8(text));
 }
