@@ -11,8 +11,8 @@
 #include <OrtinFoundation/DeletableDC.h>
 
 #include "../graphics/Rounding.h"
+#include "../graphics/ScopedFlag.h"
 #include "FirstProcessor.h"
-#include "ScopedFlag.h"
 #include "SelectedObject.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <OrtinControls/ITableHandler.h>
 
 #include "../graphics/Rounding.h"
-#include "ScopedFlag.h"
+#include "../graphics/ScopedFlag.h"
 
 namespace {
 

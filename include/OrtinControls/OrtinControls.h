@@ -1,5 +1,6 @@
 #pragma once
 
+#include <OrtinControls/AdvancedScroll.h>
 #include <OrtinControls/CtrlsTools.h>
 #include <OrtinControls/FontsObjManager.h>
 #include <OrtinControls/GdiBrushWrapper.h>
@@ -14,6 +15,7 @@
 #include <OrtinControls/PrintDialogContext.h>
 #include <OrtinControls/PrintInfo.h>
 #include <OrtinControls/PrintInfoEx.h>
+#include <OrtinControls/ScrollProcessor.h>
 #include <OrtinControls/SystemColors.h>
 #include <OrtinControls/TableCtrl.h>
 #include <OrtinControls/TableCtrlPrintable.h>

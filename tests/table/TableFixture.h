@@ -11,7 +11,12 @@
 #include "Printers.h"
 #include "RecordingHandler.h"
 #include "support/Capture.h"
+#include "support/ScopedKeys.h"
+#include "support/ScopedTheme.h"
 #include "support/TopLevelWindow.h"
+
+using support::ScopedKeys;
+using support::ScopedTheme;
 
 /// The table with what hosts that derive from it can reach.
 class ReachableTable : public TableCtrl {
@@ -100,28 +105,4 @@ protected:
     Host& host;
     RecordingHandler handler;
     ReachableTable table;
-};
-
-/// The theme for the length of a scope.
-class ScopedTheme {
-public:
-    explicit ScopedTheme(int theme) { SystemColors::SetThemeColor(static_cast<EThemeColor>(theme)); }
-    ScopedTheme(const ScopedTheme&) = delete;
-    ScopedTheme& operator=(const ScopedTheme&) = delete;
-    ~ScopedTheme() { SystemColors::SetThemeColor(m_before); }
-
-private:
-    EThemeColor m_before = SystemColors::GetCurrentDomainColor();
-};
-
-/// Keys that this thread takes for pressed, for the length of a scope, without a keyboard.
-class ScopedKeys {
-public:
-    explicit ScopedKeys(std::initializer_list<int> virtualKeys);
-    ScopedKeys(const ScopedKeys&) = delete;
-    ScopedKeys& operator=(const ScopedKeys&) = delete;
-    ~ScopedKeys();
-
-private:
-    BYTE m_before[256];
 };
