@@ -102,7 +102,8 @@ void AdvancedScroll::SetCurrent(double start, double end) {
 
 void AdvancedScroll::MoveZoomOnWheel(short delta) {
     // Less than a notch is meant to move nothing; the host is told all the same.
-    OnMovement(m_state->window.width() * (delta / kWheelNotch) * kPartOfWindowPerNotch);
+    const int notches = delta / kWheelNotch;
+    OnMovement(m_state->window.width() * notches * kPartOfWindowPerNotch);
 }
 
 void AdvancedScroll::UpdateRects() {

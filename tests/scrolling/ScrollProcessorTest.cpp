@@ -428,7 +428,7 @@ TEST_F(Processor, CarriesAllItHoldsToACopy) {
     copy = processor;
     copy.OnVScroll(SB_LINEDOWN, 0, nullptr);
     EXPECT_EQ("V at 533; scroll 0,-33", log());
-    processor = std::move(copy);
+    processor = ScrollProcessor(copy);
     processor.OnVScroll(SB_PAGEDOWN, 0, nullptr);
     EXPECT_EQ("V at 733; scroll 0,-200", log());
 }
