@@ -75,8 +75,11 @@ keep_virtual_display() {
             break
         fi
     done
-    rm -f "$folder/display.number"
-    kill "$server" 2>/dev/null
+    # A server that died may have a successor by now, and the number there is that one's.
+    if kill -0 "$server" 2>/dev/null; then
+        rm -f "$folder/display.number"
+        kill "$server"
+    fi
     wait "$server"
 }
 
