@@ -7,22 +7,19 @@ namespace {
 
 constexpr double kMicrosecondsInASecond = 1e6;
 
-LOGFONTW tahoma(LONG height) {
-    LOGFONTW description{};
+LOGFONTW fontOfHeight(LONG height) {
+    LOGFONTW description = GdiFontWrapper().GetLOGFONT();
     description.lfHeight = height;
-    description.lfWeight = FW_NORMAL;
-    description.lfCharSet = DEFAULT_CHARSET;
-    lstrcpyW(description.lfFaceName, L"Tahoma");
     return description;
 }
 
 void measureFonts(bench::Results& results) {
     constexpr LONG kOtherFonts = 200;
     for (LONG height = 1; height <= kOtherFonts; ++height) {
-        GdiFontWrapper other(tahoma(height), 0);
+        GdiFontWrapper other(fontOfHeight(height), 0);
         other.GetHFONT();
     }
-    const LOGFONTW description = tahoma(-11);
+    const LOGFONTW description = fontOfHeight(-11);
     GdiFontWrapper font(description, 0);
     volatile HFONT sink = nullptr;
     const bench::Result known = bench::measure({.what = "GetHFONT of a known font",

@@ -7,7 +7,7 @@
 
 #include <OrtinControls/FontsObjManager.h>
 
-#include "FontDescriptions.h"
+#include "GdiDescriptions.h"
 #include "support/ImportPatch.h"
 #include "support/Resources.h"
 

@@ -4,6 +4,7 @@
 
 #include <OrtinControls/GdiBrushWrapper.h>
 
+#include "GdiDescriptions.h"
 #include "support/ImportPatch.h"
 #include "support/Resources.h"
 
@@ -21,10 +22,6 @@ LOGBRUSH descriptionOf(HBRUSH brush) {
     LOGBRUSH description{};
     EXPECT_EQ(static_cast<int>(sizeof description), ::GetObjectW(brush, sizeof description, &description));
     return description;
-}
-
-bool isAlive(HGDIOBJ object) {
-    return ::GetObjectType(object) != 0;
 }
 
 HBRUSH WINAPI refuseBrush(COLORREF) {

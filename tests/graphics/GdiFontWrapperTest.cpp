@@ -3,7 +3,7 @@
 #include <OrtinControls/FontsObjManager.h>
 #include <OrtinControls/GdiFontWrapper.h>
 
-#include "FontDescriptions.h"
+#include "GdiDescriptions.h"
 #include "support/ImportPatch.h"
 #include "support/Resources.h"
 

@@ -5,6 +5,7 @@
 #include <OrtinControls/GdiPenWrapper.h>
 #include <OrtinFoundation/Settings.h>
 
+#include "GdiDescriptions.h"
 #include "support/ImportPatch.h"
 #include "support/Resources.h"
 
@@ -13,24 +14,10 @@ namespace {
 constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr COLORREF kBlue = RGB(0, 0, 255);
 
-/// "style width,unused colour"
-std::string describe(const LOGPEN& pen) {
-    return std::to_string(pen.lopnStyle) + ' ' + std::to_string(pen.lopnWidth.x) + ',' +
-           std::to_string(pen.lopnWidth.y) + ' ' + std::to_string(pen.lopnColor);
-}
-
-std::string describe(const GdiPenWrapper& pen) {
-    return describe(pen.GetLOGPEN());
-}
-
 LOGPEN descriptionOf(HPEN pen) {
     LOGPEN description{};
     EXPECT_EQ(static_cast<int>(sizeof description), ::GetObjectW(pen, sizeof description, &description));
     return description;
-}
-
-bool isAlive(HGDIOBJ object) {
-    return ::GetObjectType(object) != 0;
 }
 
 HPEN WINAPI refusePen(const LOGPEN*) {

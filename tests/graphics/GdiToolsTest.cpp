@@ -2,27 +2,17 @@
 
 #include <OrtinControls/GdiTools.h>
 
-#include "FontDescriptions.h"
+#include "GdiDescriptions.h"
 
 namespace {
 
 constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr COLORREF kBlue = RGB(0, 0, 255);
 
-std::string describe(const GdiPenWrapper& pen) {
-    const LOGPEN description = pen.GetLOGPEN();
-    return std::to_string(description.lopnStyle) + ' ' + std::to_string(description.lopnWidth.x) + ',' +
-           std::to_string(description.lopnWidth.y) + ' ' + std::to_string(description.lopnColor);
-}
-
 GdiPenWrapper penOf(const LOGPEN& description) {
     GdiPenWrapper pen;
     pen.FromLOGPEN(description);
     return pen;
-}
-
-bool isAlive(HGDIOBJ object) {
-    return ::GetObjectType(object) != 0;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "PretendedScale.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <optional>
 
@@ -46,4 +47,12 @@ double pretendedScale() {
         ::ReleaseDC(nullptr, screen);
     }
     return std::max(dpi, 96) / 96.0;
+}
+
+long scaled(int height) {
+    return std::lround(pretendedScale() * height);
+}
+
+long unscaled(int height) {
+    return std::lround(height / pretendedScale());
 }

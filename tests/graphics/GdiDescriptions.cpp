@@ -1,6 +1,19 @@
-#include "FontDescriptions.h"
+#include "GdiDescriptions.h"
 
 #include <OrtinFoundation/StringTools.h>
+
+bool isAlive(HGDIOBJ object) {
+    return ::GetObjectType(object) != 0;
+}
+
+std::string describe(const LOGPEN& pen) {
+    return std::to_string(pen.lopnStyle) + ' ' + std::to_string(pen.lopnWidth.x) + ',' +
+           std::to_string(pen.lopnWidth.y) + ' ' + std::to_string(pen.lopnColor);
+}
+
+std::string describe(const GdiPenWrapper& pen) {
+    return describe(pen.GetLOGPEN());
+}
 
 LOGFONTW tahoma(LONG height) {
     LOGFONTW description{};
@@ -9,6 +22,10 @@ LOGFONTW tahoma(LONG height) {
     description.lfCharSet = DEFAULT_CHARSET;
     lstrcpyW(description.lfFaceName, L"Tahoma");
     return description;
+}
+
+LOGFONTW eachFieldItsOwn(LONG height) {
+    return {height, 2, 3, 4, 500, 1, 7, 8, 9, 10, 11, 12, 13, L"Segoe UI"};
 }
 
 std::string describe(const LOGFONTW& font) {
