@@ -233,6 +233,16 @@ int QuotesHandler::GetOptimalColumnWidth(int id) {
     return m_painter.cellWidthFor(widest);
 }
 
+// Rows that are not marked keep their pixels, also under a locked column of another width.
+
+void QuotesHandler::OnColumnWidthChanging(int, int) {
+    repaintAll();
+}
+
+void QuotesHandler::OnColumnWidthChanged() {
+    repaintAll();
+}
+
 __int64 QuotesHandler::GetToolTip(CRect& rect, CString& text) {
     if (m_autoscroll || m_view->GetItemCount() == 0)
         return -1;

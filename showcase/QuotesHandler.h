@@ -77,6 +77,8 @@ public:
     bool CanPaint() override { return true; }
     bool IsAutoscrollEnabled() override { return m_autoscroll; }
     int GetOptimalColumnWidth(int id) override;
+    void OnColumnWidthChanging(int id, int width) override;
+    void OnColumnWidthChanged() override;
     __int64 GetToolTip(CRect& rect, CString& text) override;
 
     // ITableHandler: selection and keys

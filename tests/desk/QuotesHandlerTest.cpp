@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "QuotesTable.h"
 #include "StatusLine.h"
+#include "support/Capture.h"
 #include "support/TopLevelWindow.h"
 
 using namespace Desk;
@@ -143,6 +146,24 @@ TEST_F(QuotesInTable, ASelectionThatHasNotBeenPaintedIsPaintedWhole) {
     CRect client;
     m_table.body()->GetClientRect(&client);
     EXPECT_TRUE(Unpainted(*m_table.body()).isExactly({client}));
+}
+
+TEST_F(QuotesInTable, ALockedColumnOfAnotherWidthIsDrawnSoInEachRow) {
+    const struct {
+        const char* way;
+        std::function<void()> change;
+    } cases[] = {
+        {"a step of a drag", [this] { m_table.TrackColumnWidthChange(Name, 300, false); }},
+        {"a double click on the border", [this] { m_table.TrackColumnWidthChangeBorderDblClk(Name); }},
+    };
+    for (const auto& each : cases) {
+        const support::Pixels before = support::Pixels::ofClient(*m_table.body());
+        each.change();
+        const support::Pixels shown = support::Pixels::ofClient(*m_table.body());
+        paint();
+        EXPECT_EQ(shown, support::Pixels::ofClient(*m_table.body())) << each.way;
+        EXPECT_NE(shown, before) << each.way;
+    }
 }
 
 TEST_F(QuotesInTable, ACellIsNamedByItsDisplayPositionAlsoBehindHiddenColumns) {
