@@ -174,4 +174,31 @@ TEST(Utf8, ChangesToWideAndBack) {
     EXPECT_EQ(L"a\xFFFD", String::Utf8ToWide("a\xFF").substr(0, 2));
 }
 
+TEST(LogCodePage, IsWindows1250WhateverTheSystemsOwn) {
+    struct Case {
+        const wchar_t* wide;
+        const char* ansi;
+    };
+    const Case cases[] = {
+        {L"", ""},
+        {L"GetLastError() == 5", "GetLastError() == 5"},
+        {L"zażółć gęślą jaźń", "za\xBF\xF3\xB3\xE6 g\xEA\x9Cl\xB9 ja\x9F\xF1"},
+        {L"ZAŻÓŁĆ GĘŚLĄ JAŹŃ", "ZA\xAF\xD3\xA3\xC6 G\xCA\x8CL\xA5 JA\x8F\xD1"},
+        {L"1 \x20AC", "1 \x80"},
+        {L"\x044F \x0101 \x00E5", "? ? ?"}, // a letter that looks alike would be another name
+        {L"a\nb\t", "a\nb\t"},
+    };
+    for (const Case& each : cases) {
+        EXPECT_EQ(each.ansi, String::WideToAnsi(each.wide));
+    }
+    EXPECT_EQ(std::string("a\0b", 3), String::WideToAnsi(std::wstring_view(L"a\0b", 3)));
+    EXPECT_EQ("za", String::WideToAnsi(std::wstring_view(L"zażółć", 2))) << "a view needs no terminator";
+    EXPECT_EQ("a?", String::WideToAnsi(L"a\xD83D\xDCC8").substr(0, 2));
+    EXPECT_EQ("a?b", String::WideToAnsi(L"a\xD83D"
+                                        L"b"))
+        << "half a pair";
+    const std::wstring longText(1'000'000, L'ż');
+    EXPECT_EQ(std::string(1'000'000, '\xBF'), String::WideToAnsi(longText));
+}
+
 } // namespace

@@ -22,3 +22,13 @@ std::string OrtinTools::String::WideToUtf8(std::wstring_view text) {
 boost::json::string OrtinTools::String::WideToJsonUtf8(std::wstring_view text) {
     return boost::json::string(WideToUtf8(text));
 }
+
+std::string OrtinTools::String::WideToAnsi(std::wstring_view text) {
+    constexpr UINT centralEuropean = 1250;
+    constexpr DWORD exactly = WC_NO_BEST_FIT_CHARS;
+    const int count = static_cast<int>(text.size());
+    const int needed = WideCharToMultiByte(centralEuropean, exactly, text.data(), count, nullptr, 0, "?", nullptr);
+    std::string ansi(static_cast<size_t>(needed), '\0');
+    WideCharToMultiByte(centralEuropean, exactly, text.data(), count, ansi.data(), needed, "?", nullptr);
+    return ansi;
+}

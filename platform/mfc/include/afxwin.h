@@ -3,6 +3,7 @@
 #include "afx.h"
 #include "afxcmd.h"
 #include "afxmsg_.h"
+#include "afxres.h"
 #include "afxstat.h"
 #include "afxwin_app.h"
 #include "afxwin_ctl.h"

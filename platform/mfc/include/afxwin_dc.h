@@ -208,6 +208,16 @@ public:
     int GetTextFace(int nCount, LPWSTR lpszFacename) const { return ::GetTextFaceW(m_hAttribDC, nCount, lpszFacename); }
     int GetTextFace(CString& rString) const;
 
+    // Printing; results below or equal to 0 are failures
+    /// The number of the spooler's job.
+    int StartDoc(LPDOCINFOW lpDocInfo) { return ::StartDocW(m_hDC, lpDocInfo); }
+    int StartPage() { return ::StartPage(m_hDC); }
+    int EndPage() { return ::EndPage(m_hDC); }
+    int EndDoc() { return ::EndDoc(m_hDC); }
+    int AbortDoc() { return ::AbortDoc(m_hDC); }
+    /// The system calls the function now and then while it prints; a result of 0 cancels the job.
+    int SetAbortProc(ABORTPROC lpfn) { return ::SetAbortProc(m_hDC, lpfn); }
+
 protected:
     HGDIOBJ selectInBoth(HGDIOBJ object);
     bool hasOwnAttributes() const { return m_hAttribDC != nullptr && m_hAttribDC != m_hDC; }

@@ -38,4 +38,12 @@ TEST(StringResources, ServeAsFormats) {
     EXPECT_STREQ(L"Kurs: 250 zł", text);
 }
 
+TEST(StringResources, OfTheFrameworkAreFoundLast) {
+    CString text;
+    EXPECT_TRUE(text.LoadString(AFX_IDP_FAILED_TO_START_PRINT));
+    EXPECT_STREQ(L"Nie można rozpocząć drukowania.", text);
+    text.Format(AFX_IDS_PRINTPAGENUM, 12);
+    EXPECT_STREQ(L"Strona 12", text);
+}
+
 } // namespace
