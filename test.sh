@@ -4,7 +4,7 @@ set -euo pipefail
 # shellcheck source=scripts/build.sh
 . "$(dirname "${BASH_SOURCE[0]}")/scripts/build.sh"
 
-need_packages build test wine display
+need_packages build test wine display print
 need_locale
 build core-sanitize
 build windows

@@ -28,18 +28,23 @@ function(ortin_need_googletest)
     endif()
 endfunction()
 
-# ortin_test(NAME SOURCES a.cpp... LIBRARIES x... [DPI144] [DISPLAY]): one program and one CTest entry, or two.
+# ortin_test(NAME SOURCES a.cpp... LIBRARIES x... [DPI144] [DISPLAY] [PRINTER]): one program and one CTest entry, or two.
 #   DPI144   the program runs again, as NAME@144 with the label dpi144, where a logical inch has 144 pixels
 #   DISPLAY  the program moves the real mouse, types or needs the focus: it runs alone, so that nobody's window covers
 #            its own
+#   PRINTER  the program prints: a spooler of its own runs with it, and it runs alone, because all programs of a prefix
+#            share one list of printers
 function(ortin_test name)
-    cmake_parse_arguments(arg "DPI144;DISPLAY" "" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(arg "DPI144;DISPLAY;PRINTER" "" "SOURCES;LIBRARIES" ${ARGN})
     ortin_need_googletest()
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE ortin_warnings ortin_platform_options ${arg_LIBRARIES} gtest gmock)
     set(entries ${name})
     if(WIN32)
         set(runner ${PROJECT_SOURCE_DIR}/scripts/wine-run.sh)
+        if(arg_PRINTER)
+            set(runner ${PROJECT_SOURCE_DIR}/scripts/printer.sh ${CMAKE_BINARY_DIR}/printed ${runner})
+        endif()
         add_test(NAME ${name} COMMAND ${runner} 96 $<TARGET_FILE:${name}>)
         if(arg_DPI144)
             add_test(NAME ${name}@144 COMMAND ${runner} 144 $<TARGET_FILE:${name}>)
@@ -50,7 +55,7 @@ function(ortin_test name)
         add_test(NAME ${name} COMMAND ${name})
     endif()
     set_tests_properties(${entries} PROPERTIES TIMEOUT 600)
-    if(arg_DISPLAY)
+    if(arg_DISPLAY OR arg_PRINTER)
         set_tests_properties(${entries} PROPERTIES RUN_SERIAL TRUE)
     endif()
 endfunction()

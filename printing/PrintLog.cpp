@@ -5,9 +5,8 @@
 
 #include <windows.h>
 
-void logPrinting(std::wstring_view text, std::source_location call) {
+void logPrinting(std::wstring_view text, int line) {
     const DWORD error = ::GetLastError();
-    OrtinTools::Log::Instance().Write("PrintStrategy::PrintObject", static_cast<int>(call.line()),
-                                      OrtinTools::String::WideToAnsi(text));
+    OrtinTools::Log::Instance().Write("PrintStrategy::PrintObject", line, OrtinTools::String::WideToAnsi(text));
     ::SetLastError(error);
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <source_location>
 #include <string_view>
 
 /// A line of the print job's log; its number is that of the call. GetLastError stays as it was.
-void logPrinting(std::wstring_view text, std::source_location call = std::source_location::current());
+void logPrinting(std::wstring_view text, int line = __builtin_LINE());

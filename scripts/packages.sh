@@ -38,6 +38,17 @@ END
         display)
             echo "xvfb Xvfb"
             ;;
+        print)
+            cat <<'END'
+cups /usr/lib/cups/filter/pstops
+cups-daemon /usr/sbin/cupsd
+cups-client /usr/sbin/lpadmin
+libcups2 /usr/lib/x86_64-linux-gnu/libcups.so.2
+printer-driver-cups-pdf /usr/share/ppd/cups-pdf/CUPS-PDF_opt.ppd
+ghostscript gs
+poppler-utils pdftotext
+END
+            ;;
         check)
             cat <<'END'
 clang-format clang-format

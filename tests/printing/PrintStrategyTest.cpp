@@ -5,18 +5,11 @@
 #include <thread>
 
 using namespace PrintLogText;
+using namespace PrintStory;
 
 namespace {
 
 using PrintStrategyJobs = SpooledPrintingFixture;
-
-const std::string kStart = "begin SetAbortProc StartDoc(Notowania)";
-
-/// What host and spooler see of a page that goes well.
-std::string printed(int page) {
-    const std::string number = std::to_string(page);
-    return " prepare:" + number + " StartPage prepare:" + number + " print:" + number + " EndPage";
-}
 
 } // namespace
 

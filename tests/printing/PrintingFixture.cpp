@@ -90,3 +90,8 @@ std::string failedEnd(int error) {
 }
 
 } // namespace PrintLogText
+
+std::string PrintStory::printed(int page) {
+    const std::string number = std::to_string(page);
+    return " prepare:" + number + " StartPage prepare:" + number + " print:" + number + " EndPage";
+}

@@ -94,3 +94,13 @@ std::string drawn(int number);
 std::string failedEnd(int error);
 
 } // namespace PrintLogText
+
+/// What host and spooler see of a job of the document "Notowania".
+namespace PrintStory {
+
+inline const std::string kStart = "begin SetAbortProc StartDoc(Notowania)";
+
+/// A page that goes well.
+std::string printed(int page);
+
+} // namespace PrintStory

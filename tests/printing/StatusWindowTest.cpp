@@ -3,13 +3,14 @@
 #include <chrono>
 
 #include "support/Capture.h"
+#include "support/Pump.h"
 #include "support/Resources.h"
 
 namespace {
 
 using StatusWindows = PrintingFixture;
 
-support::Pixels picturesOfItem(int item) {
+support::Pixels pictureOfItem(int item) {
     CRect area;
     ::GetWindowRect(::GetDlgItem(statusWindow(), item), &area);
     ::MapWindowPoints(nullptr, statusWindow(), reinterpret_cast<POINT*>(&area), 2);
@@ -47,7 +48,7 @@ TEST_F(StatusWindows, ShowThePageOnTheScreenBeforeItIsDrawn) {
     printable.onPrint = [&](CDC&, PrintInfo&) {
         longest = std::max(longest, Clock::now() - start);
         start = {};
-        pictures.push_back(picturesOfItem(204));
+        pictures.push_back(pictureOfItem(204));
     };
     print();
     ASSERT_EQ(3U, pictures.size());
@@ -55,6 +56,38 @@ TEST_F(StatusWindows, ShowThePageOnTheScreenBeforeItIsDrawn) {
     EXPECT_FALSE(pictures[0].onlyColour(pictures[0].bounds())) << "there is no text";
     EXPECT_NE(pictures[0], pictures[1]);
     EXPECT_NE(pictures[1], pictures[2]);
+}
+
+TEST_F(StatusWindows, CutALongPageTextOfTheHost) {
+    // The host's own text of that number comes before the framework's.
+    const HMODULE library = ::LoadLibraryW(L"ortin_printing_words.dll");
+    ASSERT_NE(nullptr, library);
+    const HINSTANCE before = AfxGetResourceHandle();
+    AfxSetResourceHandle(library);
+    std::wstring shown;
+    printable.onPrint = [&](CDC&, PrintInfo&) { shown = statusText(204); };
+    askForPages(2, 2);
+    print();
+    AfxSetResourceHandle(before);
+    ::FreeLibrary(library);
+    EXPECT_EQ(std::wstring(9, L'.') + L"2" + std::wstring(69, L'-'), shown);
+    EXPECT_EQ(79U, shown.size());
+}
+
+TEST_F(StatusWindows, ShowAllTheirTextsInAPictureToLookAt) {
+    printable.title = L"Notowania spółek z indeksu S&P 500";
+    printer.dialog.PrinterName(L"HP LaserJet Pro MFP M428fdw (sala operacyjna, drugie piętro)");
+    printer.dialog.PrinterPortName(L"WSD-8a2f01c4-77e0");
+    askForPages(2, 2);
+    printable.onPrint = [](CDC&, PrintInfo&) {
+        support::pumpUntilIdle();
+        support::Pixels::ofWindow(statusWindow()).savePng(support::picturesFolder() / "print-status.png");
+        for (const int item : {201, 202, 203, 204}) {
+            const support::Pixels picture = pictureOfItem(item);
+            EXPECT_FALSE(picture.onlyColour(picture.bounds())) << item;
+        }
+    };
+    print();
 }
 
 TEST_F(StatusWindows, OfAThousandJobsLeaveNothingBehind) {

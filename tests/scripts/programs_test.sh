@@ -117,7 +117,7 @@ expect "a locale that cannot be generated ends in one clear line" 1 \
 machine_without
 pretend apt-get 'exit 100'
 pretend localedef 'exit 1'
-on_machine bash -c ". '$root/scripts/build.sh' && need_packages build test wine display && need_locale"
+on_machine bash -c ". '$root/scripts/build.sh' && need_packages build test wine display print && need_locale"
 expect "a machine that has everything is asked for nothing" 0 "" 0
 expect_no_call_of "a machine that has everything needs no package manager" apt-get
 expect_no_call_of "a machine that has everything needs no new locale" localedef

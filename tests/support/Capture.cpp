@@ -52,12 +52,6 @@ std::string describe(const RECT& area) {
     return text.str();
 }
 
-std::filesystem::path picturesFolder() {
-    std::wstring program(MAX_PATH, L'\0');
-    program.resize(::GetModuleFileNameW(nullptr, program.data(), MAX_PATH));
-    return std::filesystem::path(program).parent_path() / "pictures";
-}
-
 std::string pictureName() {
     const auto* info = testing::UnitTest::GetInstance()->current_test_info();
     std::string name = info ? std::string(info->test_suite_name()) + "." + info->name() : "picture";
@@ -66,6 +60,12 @@ std::string pictureName() {
 }
 
 } // namespace
+
+std::filesystem::path picturesFolder() {
+    std::wstring program(MAX_PATH, L'\0');
+    program.resize(::GetModuleFileNameW(nullptr, program.data(), MAX_PATH));
+    return std::filesystem::path(program).parent_path() / "pictures";
+}
 
 Pixels::Pixels(int width, int height)
     : m_width(std::max(width, 0)),

@@ -68,6 +68,9 @@ std::optional<Difference> difference(const Pixels& actual, const Pixels& expecte
 /// pictures/TEST-NAME-actual.png and -expected.png.
 testing::AssertionResult samePixels(const Pixels& actual, const Pixels& expected);
 
+/// Where pictures of tests lie: beside the test program.
+std::filesystem::path picturesFolder();
+
 /// "#RRGGBB"
 std::string describe(COLORREF colour);
 
