@@ -31,6 +31,12 @@ HFONT WINAPI refuseFont(const LOGFONTW*) {
     return nullptr;
 }
 
+/// So slow that other threads come to ask for the same font meanwhile.
+HFONT WINAPI makeFontSlowly(const LOGFONTW* description) {
+    ::Sleep(1);
+    return ::CreateFontIndirectW(description);
+}
+
 class FontCache : public testing::Test {
 protected:
     FontsObjManager cache;
@@ -157,8 +163,10 @@ TEST_F(FontCache, HasOneInstance) {
 
 TEST_F(FontCache, GivesOneFontForOneDescriptionToManyThreads) {
     constexpr int kThreads = 8;
-    constexpr int kHeights = 200;
-    constexpr int kRounds = 20;
+    constexpr int kHeights = 50;
+    constexpr int kRounds = 100;
+    const support::ImportPatch patch(::GetModuleHandleW(L"OrtinControls.dll"), "gdi32.dll", "CreateFontIndirectW",
+                                     &makeFontSlowly);
     const std::size_t before = support::gdiHandleCount();
     std::vector<std::vector<CFont*>> seen(kThreads, std::vector<CFont*>(kHeights));
     std::atomic<int> mistakes = 0;
@@ -172,9 +180,8 @@ TEST_F(FontCache, GivesOneFontForOneDescriptionToManyThreads) {
             CFont own;
             for (int round = 0; round < kRounds; ++round) {
                 for (int index = 0; index < kHeights; ++index) {
-                    const LOGFONTW description = tahoma(-1 - (index + thread * 31) % kHeights);
-                    CFont*& first =
-                        seen[static_cast<std::size_t>(thread)][static_cast<std::size_t>(-description.lfHeight - 1)];
+                    const LOGFONTW description = tahoma(-1 - index);
+                    CFont*& first = seen[static_cast<std::size_t>(thread)][static_cast<std::size_t>(index)];
                     CFont* font = nullptr;
                     if (round % 5 == 4) {
                         own.DeleteObject();
