@@ -15,6 +15,7 @@
 #include <OrtinControls/PrintDialogContext.h>
 #include <OrtinControls/PrintInfo.h>
 #include <OrtinControls/PrintInfoEx.h>
+#include <OrtinControls/PrintPreviewWindow.h>
 #include <OrtinControls/PrintStrategy.h>
 #include <OrtinControls/ScrollProcessor.h>
 #include <OrtinControls/SystemColors.h>

@@ -24,6 +24,10 @@ public:
         m_dc.CreateCompatibleDC(nullptr);
     }
 
+    void setSize(int width, int height) {
+        S_caps[HORZRES] = width;
+        S_caps[VERTRES] = height;
+    }
     void setResolution(int dpiX, int dpiY) {
         S_caps[LOGPIXELSX] = dpiX;
         S_caps[LOGPIXELSY] = dpiY;

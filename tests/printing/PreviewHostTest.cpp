@@ -1,0 +1,159 @@
+// Printables that misbehave, extreme scales, and what a preview costs.
+#include "PreviewFixture.h"
+
+#include <stdexcept>
+
+#include <psapi.h>
+
+#include "support/ImportPatch.h"
+#include "support/Resources.h"
+
+namespace {
+
+class PreviewHost : public PreviewFixture {};
+
+CSize S_largest;
+bool S_noMemory;
+HBITMAP(WINAPI* S_createBitmap)(HDC, int, int);
+
+HBITMAP WINAPI notedBitmap(HDC dc, int width, int height) {
+    S_largest =
+        CSize(std::max(S_largest.cx, static_cast<LONG>(width)), std::max(S_largest.cy, static_cast<LONG>(height)));
+    return S_noMemory ? nullptr : S_createBitmap(dc, width, height);
+}
+
+/// Sees the bitmaps that the framework makes.
+class NotedBitmaps {
+public:
+    NotedBitmaps() {
+        S_largest = CSize(0, 0);
+        S_noMemory = false;
+        S_createBitmap = m_patch.original<HBITMAP WINAPI(HDC, int, int)>();
+    }
+
+private:
+    support::ImportPatch m_patch{::GetModuleHandleW(L"OrtinMfc.dll"), "gdi32.dll", "CreateCompatibleBitmap",
+                                 notedBitmap};
+};
+
+std::size_t residentBytes() {
+    PROCESS_MEMORY_COUNTERS counters{};
+    ::K32GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof counters);
+    return counters.WorkingSetSize;
+}
+
+} // namespace
+
+TEST_F(PreviewHost, MayDestroyTheWindowWhileItDraws) {
+    document.onPrint = [this](CDC*, PrintInfo*) { preview.DestroyWindow(); };
+    update();
+    EXPECT_EQ("1 ", document.takeDrawn());
+    EXPECT_EQ(nullptr, preview.GetSafeHwnd());
+}
+
+TEST_F(PreviewHost, MayDestroyTheWindowWhileItBegins) {
+    document.onBegin = [this] { preview.DestroyWindow(); };
+    update();
+    EXPECT_EQ(nullptr, preview.GetSafeHwnd());
+    EXPECT_EQ("", document.takeDrawn());
+}
+
+TEST_F(PreviewHost, MayBeginAnewWhileItDraws) {
+    int left = 1;
+    document.onPrint = [&](CDC*, PrintInfo*) {
+        if (left-- > 0) {
+            document.pages = 1;
+            preview.Update(*device.dc());
+        }
+    };
+    update();
+    EXPECT_EQ("1 1 ", document.takeDrawn()) << "what was drawn for the document of before is not kept";
+    EXPECT_EQ(310, preview.CalculateTotalHeight());
+}
+
+TEST_F(PreviewHost, MayLetMessagesThroughWhileItDraws) {
+    document.onPrint = [this](CDC*, PrintInfo*) {
+        preview.Invalidate();
+        preview.UpdateWindow();
+    };
+    update();
+    EXPECT_EQ("1 2 ", document.takeDrawn());
+    hideButtons();
+    EXPECT_EQ(ColouredPages::colourOf(1), pixels().at(client().cx / 2, 100));
+}
+
+TEST_F(PreviewHost, MayLeaveTheContextAsItLikes) {
+    document.onPrint = [](CDC* dc, PrintInfo*) {
+        dc->SetMapMode(MM_ANISOTROPIC);
+        dc->SetViewportExt(7, 7);
+        dc->SetViewportOrg(40, 40);
+        dc->IntersectClipRect(0, 0, 1, 1);
+    };
+    update();
+    hideButtons();
+    const int left = leftMargin(200);
+    EXPECT_EQ(ColouredPages::colourOf(1), pixels().onlyColour({left, 5, left + 200, 305}));
+}
+
+TEST_F(PreviewHost, MayThrowWhileItBegins) {
+    document.onBegin = [] { throw std::runtime_error("no pages"); };
+    EXPECT_THROW(preview.Update(*device.dc()), std::runtime_error);
+    EXPECT_NE(0, ::GetDeviceCaps(*device.dc(), HORZRES)) << "the context is still there";
+    EXPECT_EQ(static_cast<DWORD>(OBJ_MEMDC), ::GetObjectType(*device.dc()));
+    document.onBegin = nullptr;
+    update();
+    EXPECT_EQ("1 2 ", document.takeDrawn());
+}
+
+TEST_F(PreviewHost, WithoutMemoryForAPageTriesAgainAtTheNextPaint) {
+    {
+        const NotedBitmaps noted;
+        S_noMemory = true;
+        update();
+        EXPECT_EQ("", document.takeDrawn());
+    }
+    pixels();
+    EXPECT_EQ("1 2 ", document.takeDrawn());
+}
+
+TEST_F(PreviewHost, NoBitmapIsLargerThanThePageAtAnyScale) {
+    const NotedBitmaps noted;
+    update();
+    for (const double delta : {-0.98, 3.0, 40.0, 10'000.0, 1e9, -1e9 - 10'042.0, 0.5}) {
+        scale(delta);
+        pixels();
+    }
+    EXPECT_EQ(200, S_largest.cx);
+    EXPECT_EQ(300, S_largest.cy);
+    EXPECT_EQ("1 2 3 ", document.takeDrawn());
+}
+
+TEST_F(PreviewHost, AThousandUpdatesAndScalesLeaveNoHandleBehind) {
+    const auto work = [this](int times) {
+        for (int time = 0; time < times; ++time) {
+            preview.Update(*device.dc());
+            preview.UpdateWindow();
+            preview.ChangePreviewAreaScale(time % 2 == 0 ? 0.4 : -0.4);
+            preview.UpdateWindow();
+        }
+        support::pumpUntilIdle();
+    };
+    work(10);
+    const std::size_t before = support::gdiHandleCount();
+    work(1000);
+    EXPECT_EQ(before, support::gdiHandleCount());
+}
+
+TEST_F(PreviewHost, AKeptPageCostsFourBytesAPixelOfThePrinter) {
+    device.setSize(2480, 3508);
+    document.pages = 1;
+    document.area = CRect(0, 0, 2480, 3508);
+    scale(-0.9);
+    preview.Update(nullptr);
+    const std::size_t before = residentBytes();
+    preview.Update(*device.dc());
+    pixels();
+    const double bytes = static_cast<double>(residentBytes()) - static_cast<double>(before);
+    EXPECT_NEAR(2480.0 * 3508 * 4, bytes, 4e6);
+    RecordProperty("bytes", std::to_string(bytes));
+}
