@@ -9,7 +9,7 @@
 #include <OrtinControls/SystemColors.h>
 #include <OrtinFoundation/DeletableDC.h>
 
-#include "../table/ScopedFlag.h"
+#include "../graphics/ScopedFlag.h"
 #include "PreviewLayout.h"
 
 namespace {

@@ -7,8 +7,8 @@
 #include <OrtinFoundation/Keyboard.h>
 #include <OrtinFoundation/ResourceHandleManager.h>
 
+#include "../graphics/ScopedFlag.h"
 #include "../module/ModuleRecord.h"
-#include "../table/ScopedFlag.h"
 #include "PreviewLayout.h"
 
 namespace {
