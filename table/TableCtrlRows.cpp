@@ -273,12 +273,12 @@ void TableCtrl::SetVScrollMaxPos() {
     TableList& list = m_state->list;
     list.updateScroll();
     if (list.GetSafeHwnd() != nullptr) {
-        list.SetScrollPos(SB_VERT, list.rangeMaximum(), TRUE);
+        list.scrollTo(list.rangeMaximum());
     }
 }
 
 void TableCtrl::SetVScrollMinPos() {
     if (m_state->list.GetSafeHwnd() != nullptr) {
-        m_state->list.SetScrollPos(SB_VERT, 0, TRUE);
+        m_state->list.scrollTo(0);
     }
 }

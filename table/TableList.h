@@ -75,6 +75,8 @@ public:
     void markScrollDirty() { m_scrollDirty = true; }
     void updateScroll();
     void scrollIntoView(int row);
+    /// Repaints nothing by itself; the next paint is full if the position is another one.
+    void scrollTo(int position);
     int clientHeight() const;
     int rangeMaximum() const;
     /// The content coordinate of a client coordinate of this window.
@@ -113,6 +115,9 @@ private:
         CRect rect;
     };
 
+    /// Scroll bar and picture wait for the rows. Before the host is called, because it may throw, and after it, because
+    /// it may paint.
+    void noteMovedRows();
     /// Stores the height that the handler has for the row. Needs a handler.
     void askHeight(int row);
 

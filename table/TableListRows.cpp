@@ -6,23 +6,28 @@
 
 #include <OrtinControls/ITableHandler.h>
 
-void TableList::insertRow(std::uint64_t data, int row) {
-    const int inserted = m_rows.insert(data, row);
-    if (m_handler != nullptr) {
-        askHeight(inserted);
-        m_handler->SetFindMode(0);
-    }
+void TableList::noteMovedRows() {
     m_scrollDirty = true;
     requestFullRedraw();
 }
 
+void TableList::insertRow(std::uint64_t data, int row) {
+    const int inserted = m_rows.insert(data, row);
+    noteMovedRows();
+    if (m_handler != nullptr) {
+        askHeight(inserted);
+        m_handler->SetFindMode(0);
+    }
+    noteMovedRows();
+}
+
 void TableList::insertRows(const std::vector<RowStore::Row>& rows, int row) {
     m_rows.insert(rows, row);
+    noteMovedRows();
     if (m_handler != nullptr) {
         m_handler->SetFindMode(0);
     }
-    m_scrollDirty = true;
-    requestFullRedraw();
+    noteMovedRows();
 }
 
 void TableList::removeRows(const std::vector<std::uint64_t>& list) {
@@ -48,14 +53,15 @@ void TableList::removeRows(const std::vector<std::uint64_t>& list) {
 
 void TableList::removeAllRows() {
     m_rows.clear();
-    m_scrollDirty = true;
+    noteMovedRows();
     if (m_handler != nullptr) {
         m_handler->SetFindMode(0);
     }
-    requestFullRedraw();
+    noteMovedRows();
 }
 
 void TableList::updateAllHeights() {
+    m_scrollDirty = true; // and again at the end: the host may throw, or paint, in between
     for (int row = 0; m_handler != nullptr && row < m_rows.count(); ++row) {
         m_handler->UpdateItemPosition(row);
         askHeight(row);

@@ -87,7 +87,14 @@ void TableList::scrollIntoView(int row) {
     }
     if (const std::optional<int> position = RowScroll::intoView(*span, viewTop, viewHeight, margins);
         position && GetSafeHwnd() != nullptr) {
-        SetScrollPos(SB_VERT, *position, TRUE);
+        scrollTo(*position);
+    }
+}
+
+void TableList::scrollTo(int position) {
+    if (position != GetScrollPos(SB_VERT)) {
+        SetScrollPos(SB_VERT, position, TRUE);
+        requestFullRedraw();
     }
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <stdexcept>
 
 #include "TableFixture.h"
 #include "support/ImportPatch.h"
@@ -242,6 +243,9 @@ TEST_F(TablePaint, OptimisedIsFullAfterWhatMovesTheRows) {
          }},
         {"a removal", [this] { table.DeleteItem(90); }},
         {"a scroll", [this] { ::SendMessageW(body(), WM_VSCROLL, SB_LINEDOWN, 0); }},
+        {"a row that comes into view", [this] { table.SelectItem(15, false); }},
+        {"the highest position", [this] { table.SetVScrollMaxPos(); }},
+        {"the lowest position", [this] { table.SetVScrollMinPos(); }},
         {"a fit of the columns", [this] { table.UpdateColumnWidths(-1, 0); }},
         {"a sort",
          [this] {
@@ -258,6 +262,25 @@ TEST_F(TablePaint, OptimisedIsFullAfterWhatMovesTheRows) {
         const std::string drawn = log();
         EXPECT_GE(std::count(drawn.begin(), drawn.end(), 'D'), 2) << c.what << ": " << drawn;
     }
+}
+
+TEST_F(TablePaint, OptimisedIsFullAndTheBarFollowsAfterAHostThatThrewForANewRow) {
+    handler.optimised = true;
+    addManyRows(20);
+    paint();
+    const int range = scrollMaximum();
+    handler.onCall = [](const std::string& callback) {
+        if (callback == "ComputeItemHeight") {
+            throw std::runtime_error("host");
+        }
+    };
+    EXPECT_THROW(table.InsertItem(90, 0), std::runtime_error);
+    handler.onCall = nullptr;
+    handler.record({"DrawItem"});
+    paint();
+    const std::string drawn = log();
+    EXPECT_GE(std::count(drawn.begin(), drawn.end(), 'D'), 2) << drawn;
+    EXPECT_LT(range, scrollMaximum());
 }
 
 TEST_F(TablePaint, MarkingARowOffScreenRefreshesNothingAndMarkingAllAlwaysDoes) {
