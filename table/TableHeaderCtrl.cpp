@@ -3,11 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include <OrtinControls/GdiPlusHeaders.h>
 #include <OrtinControls/SystemColors.h>
 
-#include <objidl.h>
-
-#include "../graphics/GdiPlusHeaders.h"
 #include "TableMessages.h"
 
 namespace {

@@ -1,17 +1,26 @@
 #pragma once
 
 #include <OrtinControls/AdvancedScroll.h>
+#include <OrtinControls/CRect2D.h>
 #include <OrtinControls/CtrlsTools.h>
+#include <OrtinControls/DrawContextBase.h>
+#include <OrtinControls/DrawContextGdiLine.h>
+#include <OrtinControls/DrawContextGdiLineAndFill.h>
+#include <OrtinControls/DrawContextGdiText.h>
+#include <OrtinControls/DrawControlPointsHelper.h>
 #include <OrtinControls/FontsObjManager.h>
 #include <OrtinControls/GdiBrushWrapper.h>
 #include <OrtinControls/GdiFontWrapper.h>
 #include <OrtinControls/GdiPenWrapper.h>
 #include <OrtinControls/GdiTools.h>
+#include <OrtinControls/GdiplusPainter.h>
+#include <OrtinControls/GrObj.h>
 #include <OrtinControls/GraphicsHelper.h>
 #include <OrtinControls/IContextMenuBase.h>
 #include <OrtinControls/IPrintable.h>
 #include <OrtinControls/ITableHandler.h>
 #include <OrtinControls/ITableView.h>
+#include <OrtinControls/IVectorPainter.h>
 #include <OrtinControls/PrintDialogContext.h>
 #include <OrtinControls/PrintInfo.h>
 #include <OrtinControls/PrintInfoEx.h>
@@ -22,3 +31,5 @@
 #include <OrtinControls/TableCtrl.h>
 #include <OrtinControls/TableCtrlPrintable.h>
 #include <OrtinControls/TooltipTools.h>
+#include <OrtinControls/VectorCanvasCtrl.h>
+#include <OrtinControls/VectorPainterGdi.h>

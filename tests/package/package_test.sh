@@ -28,5 +28,5 @@ expect() { # expect PROGRAM WORDS
     echo "$1 says: $said"
     [ "$said" = "$2" ]
 }
-expect host "table made, columns: 1"
+expect host "table made, columns: 1, frame begun"
 expect json_host "font came back, a list refused"

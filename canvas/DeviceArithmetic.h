@@ -1,0 +1,94 @@
+#pragma once
+
+// From the real coordinates of a canvas to those of a device. No windows.
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+#include <OrtinControls/CRect2D.h>
+#include <OrtinFoundation/OrtinPoint.h>
+
+#include "../graphics/Rounding.h"
+
+namespace VectorCanvas {
+
+/// Half-open.
+struct DeviceRect {
+    int left;
+    int top;
+    int right;
+    int bottom;
+
+    friend bool operator==(const DeviceRect&, const DeviceRect&) = default;
+};
+
+/// Of the sum of a coordinate and its offset. NaN gives 0, what 32 bits do not hold saturates.
+inline int toPixel(float coordinate) {
+    return truncateToInt(coordinate);
+}
+
+/// How far from the origin the system is led with shapes: it walks them pixel row by pixel row or dash by dash, which
+/// takes minutes over 32 bits.
+inline constexpr float kReach = 1 << 20;
+
+/// NaN gives 0, what lies beyond reach saturates.
+inline float withinReach(float coordinate) {
+    return std::isnan(coordinate) ? 0.0F : std::clamp(coordinate, -kReach, kReach);
+}
+
+inline OrtinPoint<float> withinReach(const OrtinPoint<float>& point) {
+    return {withinReach(point.x), withinReach(point.y)};
+}
+
+/// As toPixel, within reach.
+inline int toPixelWithinReach(float coordinate) {
+    return static_cast<int>(withinReach(coordinate));
+}
+
+/// Each edge truncated where it lies. The edges keep off the ends of the range, for frames are drawn one pixel inside.
+inline DeviceRect rectByEdges(const CRect2D& rect) {
+    const auto edge = [](float coordinate) {
+        return std::clamp(truncateToInt(coordinate), -std::numeric_limits<int>::max(),
+                          std::numeric_limits<int>::max() - 1);
+    };
+    return {edge(rect.x), edge(rect.y), edge(rect.x + rect.width), edge(rect.y + rect.height)};
+}
+
+/// Corner and size truncated each for itself, which can differ by one from rectByEdges; meant so.
+inline DeviceRect rectBySize(const CRect2D& rect) {
+    const auto end = [](float start, float length) {
+        return saturateToInt(std::int64_t{truncateToInt(start)} + truncateToInt(length));
+    };
+    return {truncateToInt(rect.x), truncateToInt(rect.y), end(rect.x, rect.width), end(rect.y, rect.height)};
+}
+
+/// The box of an ellipse around a truncated centre.
+inline DeviceRect boxAround(const OrtinPoint<float>& center, int radiusX, int radiusY) {
+    const auto edge = [](float middle, std::int64_t distance) {
+        constexpr auto kEnd = static_cast<std::int64_t>(kReach);
+        return static_cast<int>(std::clamp(toPixelWithinReach(middle) + distance, -kEnd, kEnd));
+    };
+    return {edge(center.x, -std::int64_t{radiusX}), edge(center.y, -std::int64_t{radiusY}), edge(center.x, radiusX),
+            edge(center.y, radiusY)};
+}
+
+/// The top left corner of a control point. Here the point is truncated first and the offset added afterwards, the other
+/// way round from all that a painter draws; meant so.
+inline OrtinPoint<float> controlPointCorner(const OrtinPoint<float>& point, const OrtinPoint<float>& offset,
+                                            float size) {
+    return withinReach({std::trunc(point.x) + offset.x - size * 0.5F, std::trunc(point.y) + offset.y - size * 0.5F});
+}
+
+/// The id as a colour: 24 bits of it, for what lies above them tells GDI to look up the colour somewhere else.
+inline unsigned int toShadowColor(unsigned int id) {
+    return id & 0xFFFFFFU;
+}
+
+/// 0 to 1 as 0 to 255, truncated; beyond that the low 8 bits.
+inline unsigned char toAlpha(float opacity) {
+    return static_cast<unsigned char>(truncateToInt(opacity * 255.0F));
+}
+
+} // namespace VectorCanvas

@@ -1,0 +1,3 @@
+#include <OrtinControls/DrawContextBase.h>
+
+VectorCanvas::DrawContextBase::~DrawContextBase() = default;

@@ -1,0 +1,3 @@
+#include <OrtinControls/GrObj.h>
+
+VectorCanvas::GrObj::~GrObj() = default;

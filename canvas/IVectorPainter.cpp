@@ -1,0 +1,3 @@
+#include <OrtinControls/IVectorPainter.h>
+
+VectorCanvas::IVectorPainter::~IVectorPainter() = default;

@@ -1,0 +1,342 @@
+#include "PainterFixture.h"
+
+#include <string>
+
+#include "support/ImportPatch.h"
+#include "support/Pump.h"
+#include "support/Resources.h"
+#include "support/TopLevelWindow.h"
+
+using VectorCanvas::VectorCanvasCtrl;
+using VectorCanvas::VectorPainterGdi;
+
+namespace {
+
+HBITMAP WINAPI refuseBitmap(HDC, int, int) {
+    return nullptr;
+}
+
+HDC WINAPI refuseDevice(HDC) {
+    return nullptr;
+}
+
+HBITMAP WINAPI refuseSection(HDC, const BITMAPINFO*, UINT, void**, HANDLE, DWORD) {
+    return nullptr;
+}
+
+HMODULE foundation() {
+    return ::GetModuleHandleW(L"OrtinFoundation.dll");
+}
+
+HMODULE controls() {
+    return ::GetModuleHandleW(L"OrtinControls.dll");
+}
+
+class Surfaces : public PainterFixture {
+protected:
+    void drawDiagonal() {
+        const Point points[] = {{0, 0}, {20, 20}};
+        painter.DrawLineList(points, 2, line, {0, 0});
+    }
+};
+
+} // namespace
+
+TEST_F(Surfaces, AreMadeInTheSizeOfTheFirstFrame) {
+    EXPECT_EQ(nullptr, painter.GetSource());
+    EXPECT_EQ(CSize(0, 0), painter.GetViewport());
+    painter.InitWindowIdAndViewPort(nullptr, CSize(30, 20));
+    EXPECT_EQ(nullptr, painter.GetSource()) << "only stored";
+    EXPECT_EQ(CSize(30, 20), painter.GetViewport());
+    begin(50, 30);
+    EXPECT_EQ(CSize(50, 30), painter.GetViewport());
+    BITMAP bitmap{};
+    ::GetObjectW(::GetCurrentObject(painter.GetSource(), OBJ_BITMAP), sizeof bitmap, &bitmap);
+    EXPECT_EQ(50, bitmap.bmWidth);
+    EXPECT_EQ(30, bitmap.bmHeight);
+}
+
+TEST_F(Surfaces, OfAnUnchangedSizeKeepThePictureAndEmptyTheShadow) {
+    begin();
+    drawDiagonal();
+    const support::Pixels before = picture();
+    const HDC source = painter.GetSource();
+    EXPECT_EQ(kId, painter.GetObjectId(5, 5));
+    ASSERT_TRUE(painter.InitRender(CSize(kWidth, kHeight)));
+    EXPECT_EQ(source, painter.GetSource());
+    EXPECT_EQ(before, picture());
+    EXPECT_EQ(0U, painter.GetObjectId(5, 5));
+}
+
+TEST_F(Surfaces, OfAnotherSizeAreNew) {
+    begin();
+    drawDiagonal();
+    begin(25, 15);
+    EXPECT_EQ(CSize(25, 15), painter.GetViewport());
+    drawDiagonal();
+    EXPECT_EQ(kId, painter.GetObjectId(14, 14));
+    EXPECT_EQ(0U, painter.GetObjectId(15, 15)) << "outside";
+}
+
+TEST_F(Surfaces, GiveNoObjectOutsideThePicture) {
+    begin();
+    const Point points[] = {{0, 0}, {kWidth, 0}, {0, 0}, {0, kHeight}};
+    painter.DrawLineList(points, 4, line, {0, 0});
+    EXPECT_EQ(kId, painter.GetObjectId(kWidth - 1, 0));
+    EXPECT_EQ(kId, painter.GetObjectId(0, kHeight - 1));
+    for (const CPoint& outside :
+         {CPoint(kWidth, 0), CPoint(-1, 0), CPoint(0, -1), CPoint(0, kHeight), CPoint(INT_MAX, INT_MIN)}) {
+        EXPECT_EQ(0U, painter.GetObjectId(outside.x, outside.y)) << outside.x << ' ' << outside.y;
+    }
+}
+
+TEST_F(Surfaces, HaveAShadowOnlyIfItWasEnabledBeforeTheyWereMade) {
+    painter.EnableShadows(0);
+    begin();
+    painter.EnableShadows(1);
+    drawDiagonal();
+    EXPECT_EQ(0U, painter.GetObjectId(5, 5)) << "no surface yet";
+    begin();
+    drawDiagonal();
+    EXPECT_EQ(0U, painter.GetObjectId(5, 5)) << "an unchanged size makes none";
+    begin(kWidth + 1, kHeight);
+    drawDiagonal();
+    EXPECT_EQ(kId, painter.GetObjectId(5, 5));
+}
+
+TEST_F(Surfaces, HaveAShadowForTheModeOneOnly) {
+    painter.EnableShadows(2);
+    begin();
+    drawDiagonal();
+    painter.DrawRect({1, 1, 10, 10}, kRed, kBlue, kId);
+    EXPECT_EQ(std::set<unsigned int>{0}, idsInShadow());
+}
+
+TEST_F(Surfaces, AreGoneAfterReleaseAndComeBackWithTheNextFrame) {
+    begin();
+    drawDiagonal();
+    painter.Release();
+    EXPECT_EQ(nullptr, painter.GetSource());
+    EXPECT_EQ(0U, painter.GetObjectId(5, 5));
+    painter.Release();
+    begin();
+    drawDiagonal();
+    EXPECT_EQ(kId, painter.GetObjectId(5, 5));
+}
+
+TEST_F(Surfaces, ReleasedOrNeverMadeAreDrawnOnWithoutHarm) {
+    for (const bool released : {false, true}) {
+        if (released) {
+            begin();
+            painter.Release();
+        }
+        const Point points[] = {{0, 0}, {20, 20}, {20, 0}, {0, 20}};
+        painter.Clear(kWhite);
+        painter.DrawLineList(points, 4, line, {0, 0});
+        painter.DrawPolyline(points, 4, &line, {0, 0});
+        painter.FillRects(points, 4, &shape, {0, 0});
+        painter.DrawPolygon(points, 4, &shape, {0, 0});
+        painter.DrawEllipse(points[0], points[1], &shape, {0, 0});
+        painter.DrawLine(points[0], points[1], &line, {0, 0});
+        painter.DrawOrdinaryLine(points[0], points[1], &line);
+        painter.DrawArc(points[0], 5, 5, 0, 90, &line, {0, 0});
+        painter.DrawPoint(points[0], &line, {0, 0});
+        painter.DrawRect({0, 0, 5, 5}, kRed, kBlue, kId);
+        painter.DrawIcon(reinterpret_cast<unsigned __int64>(::LoadIconW(nullptr, IDI_APPLICATION)), 0, 0);
+        painter.DrawControlPoints(kId, points, 4, {0, 0}, {kRed, 1, kBlue, true, 5, false, 1.0F, false});
+        const RECT clip{0, 0, 5, 5};
+        painter.SetClipRegion(&clip);
+        painter.EndRender(true);
+        EXPECT_EQ(0U, painter.GetObjectId(0, 0));
+        EXPECT_EQ(nullptr, painter.GetSource());
+    }
+}
+
+TEST_F(Surfaces, ThatTheSystemRefusesGiveFalseAndTheNextFrameGoesWell) {
+    {
+        const support::ImportPatch patch(foundation(), "gdi32.dll", "CreateCompatibleBitmap", &refuseBitmap);
+        EXPECT_FALSE(painter.InitRender(CSize(kWidth, kHeight)));
+    }
+    begin();
+    drawDiagonal();
+    EXPECT_EQ(kId, painter.GetObjectId(5, 5));
+    {
+        const support::ImportPatch patch(foundation(), "gdi32.dll", "CreateCompatibleBitmap", &refuseBitmap);
+        EXPECT_FALSE(painter.InitRender(CSize(20, 20)));
+        EXPECT_EQ(nullptr, painter.GetSource());
+        EXPECT_EQ(0U, painter.GetObjectId(5, 5));
+    }
+    {
+        const support::ImportPatch patch(controls(), "gdi32.dll", "CreateCompatibleDC", &refuseDevice);
+        EXPECT_FALSE(painter.InitRender(CSize(20, 20)));
+    }
+    begin(20, 20);
+    drawDiagonal();
+    EXPECT_EQ(kId, painter.GetObjectId(5, 5));
+}
+
+TEST_F(Surfaces, WithoutMemoryForAShadowShowAPictureInWhichNothingIsFound) {
+    {
+        const support::ImportPatch patch(foundation(), "gdi32.dll", "CreateDIBSection", &refuseSection);
+        begin();
+    }
+    const Point points[] = {{0, 0}, {20, 20}};
+    painter.DrawLine(points[0], points[1], &line, {0, 0});
+    painter.DrawRect({1, 1, 10, 10}, kRed, kBlue, kId);
+    drawDiagonal();
+    EXPECT_EQ(kRed, picture().at(5, 5));
+    EXPECT_EQ(std::set<unsigned int>{0}, idsInShadow());
+}
+
+TEST_F(Surfaces, OfNoSizeAndOfImpossibleSizesLeaveAPainterThatWorks) {
+    for (const CSize& size : {CSize(0, 0), CSize(0, 30), CSize(-5, 10), CSize(INT_MAX, INT_MAX), CSize(20000, 20000)}) {
+        painter.EnableShadows(size.cx == 20000 ? 0 : 1); // the machine need not give two pictures of that size
+        if (painter.InitRender(size)) {
+            EXPECT_EQ(size, painter.GetViewport());
+            drawDiagonal();
+            painter.DrawLine({0, 0}, {5, 5}, &line, {0, 0});
+            painter.DrawRect({0, 0, 5, 5}, kRed, kBlue, kId);
+        }
+        painter.EndRender(false);
+        EXPECT_EQ(0U, painter.GetObjectId(size.cx, size.cy));
+        painter.EnableShadows(1);
+        begin();
+        drawDiagonal();
+        EXPECT_EQ(kId, painter.GetObjectId(5, 5)) << size.cx << 'x' << size.cy;
+    }
+}
+
+TEST_F(Surfaces, GoOverWithAMoveAndLeaveAPainterAsNew) {
+    begin();
+    drawDiagonal();
+    const HDC source = painter.GetSource();
+    VectorPainterGdi taker(std::move(painter));
+    EXPECT_EQ(source, taker.GetSource());
+    EXPECT_EQ(kId, taker.GetObjectId(5, 5));
+    EXPECT_EQ(nullptr, painter.GetSource());
+    EXPECT_EQ(CSize(0, 0), painter.GetViewport());
+    painter.DrawLine({0, 10}, {40, 10}, &line, {0, 0});
+    painter.EndRender(false);
+    EXPECT_EQ(0U, taker.GetObjectId(5, 10)) << "the one that was moved from draws nowhere";
+    painter.EnableShadows(1);
+    begin();
+    drawDiagonal();
+    EXPECT_EQ(kId, painter.GetObjectId(5, 5));
+
+    painter = std::move(taker);
+    EXPECT_EQ(source, painter.GetSource());
+    VectorPainterGdi& itself = painter;
+    painter = std::move(itself);
+    EXPECT_EQ(source, painter.GetSource());
+    painter.DrawLine({0, 12}, {40, 12}, &line, {0, 0});
+    EXPECT_EQ(kId, painter.GetObjectId(5, 12)) << "the GDI+ part has come along";
+}
+
+TEST_F(Surfaces, LeaveNoHandlesBehindHoweverTheyEnd) {
+    const auto live = [&] {
+        VectorPainterGdi first;
+        first.EnableShadows(1);
+        first.InitRender(CSize(20, 20));
+        const RECT clip{0, 0, 5, 5};
+        first.SetClipRegion(&clip);
+        const Point points[] = {{0, 0}, {20, 20}, {20, 0}, {0, 20}};
+        first.DrawLineList(points, 4, line, {0, 0});
+        first.FillRects(points, 4, &shape, {0, 0});
+        VectorPainterGdi second(std::move(first));
+        second.InitRender(CSize(30, 30));
+        second.DrawLineList(points, 4, line, {0, 0});
+        first = std::move(second);
+        second.InitRender(CSize(10, 10));
+        second.Release();
+    };
+    live();
+    const std::size_t before = support::gdiHandleCount();
+    for (int round = 0; round < 200; ++round) {
+        live();
+    }
+    EXPECT_EQ(before, support::gdiHandleCount());
+}
+
+TEST_F(Surfaces, AreClearedOnlyInThePicture) {
+    begin();
+    drawDiagonal();
+    painter.Clear(kGreen);
+    EXPECT_EQ(kGreen, picture().onlyColour(picture().bounds()));
+    EXPECT_EQ(kId, painter.GetObjectId(5, 5));
+}
+
+TEST_F(Surfaces, AreClippedUntilTheFrameEnds) {
+    begin();
+    const RECT clip{10, 10, 20, 15};
+    painter.SetClipRegion(&clip);
+    painter.DrawRect({0, 0, kWidth, kHeight}, kRed, kBlue, kId);
+    EXPECT_EQ(CRect(clip), CRect(*picture().boundsOf(kBlue)));
+    EXPECT_EQ(0U, picture().count(kRed));
+    EXPECT_EQ(0U, painter.GetObjectId(9, 10));
+    EXPECT_EQ(kId, painter.GetObjectId(10, 10));
+    painter.EndRender(false);
+    EXPECT_EQ(0U, painter.GetObjectId(9, 10));
+    EXPECT_EQ(kId, painter.GetObjectId(19, 14));
+    EXPECT_EQ(50U, shadow().count(kId));
+
+    const RECT other{1, 1, 3, 3};
+    painter.SetClipRegion(&clip);
+    painter.SetClipRegion(&other);
+    painter.Clear(kGreen);
+    EXPECT_EQ(CRect(other), CRect(*picture().boundsOf(kGreen))) << "the later clip instead of the earlier";
+    painter.SetClipRegion(nullptr);
+    painter.Clear(kGreen);
+    EXPECT_EQ(kGreen, picture().onlyColour(picture().bounds()));
+}
+
+TEST_F(Surfaces, ClippedToNothingShowNothing) {
+    begin();
+    const RECT clip{10, 10, 10, 30};
+    painter.SetClipRegion(&clip);
+    painter.DrawRect({0, 0, kWidth, kHeight}, kRed, kBlue, kId);
+    painter.EndRender(false);
+    EXPECT_EQ(kWhite, picture().onlyColour(picture().bounds()));
+    EXPECT_EQ(std::set<unsigned int>{0}, idsInShadow());
+}
+
+class FrameEnd : public Surfaces {
+protected:
+    FrameEnd() {
+        window.onMessage = [this](UINT message, WPARAM wParam, LPARAM lParam) -> std::optional<LRESULT> {
+            if (message == VectorCanvasCtrl::GetUpdatePaintingMessage()) {
+                log += "update " + std::to_string(wParam) + ' ' + std::to_string(lParam) + "; ";
+            }
+            return std::nullopt;
+        };
+        painter.InitWindowIdAndViewPort(window, CSize(kWidth, kHeight));
+    }
+
+    std::string log;
+    support::ScopedTopLevelWindow window{CSize(100, 80)};
+};
+
+TEST_F(FrameEnd, SynchronousIsThroughWhenItReturns) {
+    begin();
+    painter.EndRender(true);
+    log += "returned; ";
+    support::pumpUntilIdle();
+    EXPECT_EQ("update 0 0; returned; ", log);
+}
+
+TEST_F(FrameEnd, AsynchronousReturnsFirst) {
+    begin();
+    painter.EndRender(false);
+    log += "returned; ";
+    support::pumpUntilIdle();
+    EXPECT_EQ("returned; update 0 0; ", log);
+}
+
+TEST_F(FrameEnd, WithoutAWindowSendsNothing) {
+    painter.InitWindowIdAndViewPort(nullptr, CSize(kWidth, kHeight));
+    begin();
+    painter.EndRender(false);
+    painter.EndRender(true);
+    MSG message;
+    EXPECT_FALSE(::PeekMessageW(&message, reinterpret_cast<HWND>(-1), 0, 0, PM_REMOVE));
+    EXPECT_EQ("", log);
+}

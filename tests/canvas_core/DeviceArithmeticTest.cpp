@@ -1,0 +1,132 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <ostream>
+#include <random>
+
+#include "DeviceArithmetic.h"
+
+namespace VectorCanvas {
+void PrintTo(const DeviceRect& rect, std::ostream* out) {
+    *out << rect.left << ' ' << rect.top << ' ' << rect.right << ' ' << rect.bottom;
+}
+} // namespace VectorCanvas
+
+namespace {
+
+using VectorCanvas::DeviceRect;
+
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
+constexpr float kNotANumber = std::numeric_limits<float>::quiet_NaN();
+constexpr int kMost = std::numeric_limits<int>::max();
+constexpr int kLeast = std::numeric_limits<int>::min();
+
+TEST(DevicePoints, AddTheOffsetAndThenTruncateTowardZero) {
+    struct Case {
+        const char* what;
+        float coordinate;
+        float offset;
+        int pixel;
+    };
+    const Case cases[] = {
+        {"minus a half is 0, not -1", -0.5F, 0.0F, 0},
+        {"a fraction is cut off", 10.9F, 0.0F, 10},
+        {"a negative fraction, too", -10.9F, 0.0F, -10},
+        {"two halves make a pixel", 10.5F, 0.5F, 11},
+        {"two fractions that do not", 10.5F, 0.25F, 10},
+        {"an offset across 0", 3.5F, -4.0F, 0},
+        {"not a number", kNotANumber, 5.0F, 0},
+        {"infinity", kInfinity, 0.0F, kMost},
+        {"minus infinity", -kInfinity, 0.0F, kLeast},
+        {"infinities that cancel each other", kInfinity, -kInfinity, 0},
+        {"2^31", 2147483648.0F, 0.0F, kMost},
+        {"-2^31", -2147483648.0F, 0.0F, kLeast},
+        {"the largest float below 2^31", 2147483520.0F, 0.0F, 2147483520},
+        {"beyond 32 bits", 1e20F, 0.0F, kMost},
+        {"a sum beyond all floats", std::numeric_limits<float>::max(), std::numeric_limits<float>::max(), kMost},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(c.pixel, VectorCanvas::toPixel(c.coordinate + c.offset)) << c.what;
+    }
+}
+
+TEST(DevicePoints, AreAddedAsFloats) {
+    // 2^24 + 1 is no float.
+    EXPECT_EQ(16777216, VectorCanvas::toPixel(16777216.0F + 1.0F));
+}
+
+TEST(DevicePoints, AgreeWithExactArithmeticWhereFloatsAreExact) {
+    std::mt19937 random(20'261'121);
+    std::uniform_int_distribution<int> quarters(-4'000'000, 4'000'000);
+    for (int round = 0; round < 100'000; ++round) {
+        const int first = quarters(random);
+        const int second = quarters(random);
+        const int pixel = VectorCanvas::toPixel(static_cast<float>(first) / 4.0F + static_cast<float>(second) / 4.0F);
+        ASSERT_EQ((first + second) / 4, pixel) << first << "/4 + " << second << "/4";
+    }
+}
+
+TEST(ShapePoints, StayWithinReach) {
+    EXPECT_EQ(10.75F, VectorCanvas::withinReach(10.75F));
+    EXPECT_EQ(0.0F, VectorCanvas::withinReach(kNotANumber));
+    EXPECT_EQ(1048576.0F, VectorCanvas::withinReach(kInfinity));
+    EXPECT_EQ(-1048576.0F, VectorCanvas::withinReach(-3e9F));
+    EXPECT_EQ(10, VectorCanvas::toPixelWithinReach(10.9F));
+    EXPECT_EQ(0, VectorCanvas::toPixelWithinReach(-0.9F));
+    EXPECT_EQ(-1048576, VectorCanvas::toPixelWithinReach(-kInfinity));
+}
+
+TEST(Rectangles, ByEdgesTruncateEachEdgeWhereItLies) {
+    EXPECT_EQ((DeviceRect{1, 2, 4, 7}), VectorCanvas::rectByEdges({1.5F, 2.25F, 2.75F, 4.75F}));
+    EXPECT_EQ((DeviceRect{0, 0, 1, 1}), VectorCanvas::rectByEdges({-0.5F, -0.5F, 2.0F, 2.0F}));
+    EXPECT_EQ((DeviceRect{0, 0, 0, 0}), VectorCanvas::rectByEdges({kNotANumber, kNotANumber, 5, 5}));
+}
+
+TEST(Rectangles, ByEdgesKeepAPixelFromTheEndsOfTheRange) {
+    const DeviceRect rect = VectorCanvas::rectByEdges({-kInfinity, -3e9F, kInfinity, 1e20F});
+    EXPECT_EQ(-kMost, rect.left);
+    EXPECT_EQ(-kMost, rect.top);
+    EXPECT_EQ(0, rect.right) << "-inf + inf is not a number";
+    EXPECT_EQ(kMost - 1, rect.bottom);
+}
+
+TEST(Rectangles, BySizeTruncateCornerAndSizeEachForItself) {
+    EXPECT_EQ((DeviceRect{1, 2, 3, 6}), VectorCanvas::rectBySize({1.5F, 2.25F, 2.75F, 4.75F}))
+        << "one less than by edges";
+    EXPECT_EQ((DeviceRect{0, 0, 2, 2}), VectorCanvas::rectBySize({-0.5F, -0.5F, 2.0F, 2.0F})) << "one more";
+    EXPECT_EQ((DeviceRect{kMost, kLeast, kMost, kLeast}),
+              VectorCanvas::rectBySize({kInfinity, -kInfinity, kInfinity, -kInfinity}));
+}
+
+TEST(Arcs, LieAroundTheTruncatedCentre) {
+    EXPECT_EQ((DeviceRect{-5, -15, 15, 25}), VectorCanvas::boxAround({5.9F, 5.9F}, 10, 20)) << "20 wide, 40 high";
+    EXPECT_EQ((DeviceRect{5, 5, 5, 5}), VectorCanvas::boxAround({5.0F, 5.0F}, 0, 0));
+    EXPECT_EQ((DeviceRect{15, 25, -5, -15}), VectorCanvas::boxAround({5.0F, 5.0F}, -10, -20)) << "as it is given";
+    EXPECT_EQ((DeviceRect{-1048576, -1048576, 1048576, 1048576}), VectorCanvas::boxAround({0, 0}, kMost, kMost));
+    EXPECT_EQ((DeviceRect{1048576, 1048576, -1048576, -1048576}), VectorCanvas::boxAround({0, 0}, kLeast, kLeast));
+}
+
+TEST(ControlPoints, TruncateThePointBeforeTheOffset) {
+    const OrtinPoint<float> corner = VectorCanvas::controlPointCorner({10.9F, -10.9F}, {0.5F, 0.5F}, 7.0F);
+    EXPECT_EQ(7.0F, corner.x);
+    EXPECT_EQ(-13.0F, corner.y);
+    EXPECT_EQ((OrtinPoint<float>{0.0F, 1048576.0F}),
+              VectorCanvas::controlPointCorner({kNotANumber, kInfinity}, {0, 0}, 7.0F));
+}
+
+TEST(Opacity, IsTruncatedToAByte) {
+    struct Case {
+        float opacity;
+        int alpha;
+    };
+    const Case cases[] = {
+        {0.0F, 0},  {1.0F, 255},      {0.5F, 127},      {0.999F, 254},   {2.0F, 254},
+        {-1.0F, 1}, {kNotANumber, 0}, {kInfinity, 255}, {-kInfinity, 0}, {1e20F, 255},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(c.alpha, VectorCanvas::toAlpha(c.opacity)) << c.opacity;
+    }
+}
+
+} // namespace
