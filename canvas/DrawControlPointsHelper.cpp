@@ -25,6 +25,7 @@ void DrawControlPointsHelper::DrawControlPoints(HDC device, const OrtinPoint<flo
     }
 }
 
+// NOLINTBEGIN(performance-unnecessary-value-param): the corner is two floats
 void DrawControlPointsHelper::DrawControlPointRect(Gdiplus::Graphics& graphics, const Gdiplus::Pen& pen,
                                                    const Gdiplus::Brush& brush, Gdiplus::PointF corner, float size) {
     graphics.FillRectangle(&brush, corner.X, corner.Y, size, size);
@@ -36,5 +37,6 @@ void DrawControlPointsHelper::DrawControlPointCircle(Gdiplus::Graphics& graphics
     graphics.FillEllipse(&brush, corner.X, corner.Y, size, size);
     graphics.DrawEllipse(&pen, corner.X, corner.Y, size, size);
 }
+// NOLINTEND(performance-unnecessary-value-param)
 
 } // namespace VectorCanvas

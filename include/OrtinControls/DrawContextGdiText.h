@@ -31,7 +31,7 @@ public:
 private:
     GdiFontWrapper m_font;
     COLORREF m_color = 0;
-    unsigned char m_flag = 0; ///< copied, but read by nobody
+    [[maybe_unused]] unsigned char m_flag = 0; ///< copied, but read by nobody
 };
 
 } // namespace VectorCanvas

@@ -8,11 +8,11 @@
 #include "support/Resources.h"
 
 using VectorCanvas::DrawControlPointsHelper;
-using Settings = DrawControlPointsHelper::PointSettings;
+using Marks = DrawControlPointsHelper::PointSettings;
 
 namespace {
 
-constexpr Settings kSquare{kRed, 1, kBlue, true, 6, false, 1.0F, false};
+constexpr Marks kSquare{kRed, 1, kBlue, true, 6, false, 1.0F, false};
 
 std::string calls;
 
@@ -44,11 +44,11 @@ Gdiplus::GpStatus WINGDIPAPI recordInterpolation(Gdiplus::GpGraphics*, Gdiplus::
 
 class ControlPoints : public testing::Test {
 protected:
-    void draw(std::initializer_list<Point> points, const Settings& settings, Point offset = {0, 0}) {
+    void draw(std::initializer_list<Point> points, const Marks& settings, Point offset = {0, 0}) {
         DrawControlPointsHelper::DrawControlPoints(device.dc(), points.begin(), points.size(), offset, settings);
     }
     /// What GDI+ is asked for, in order.
-    std::string callsOf(std::initializer_list<Point> points, const Settings& settings, Point offset = {0, 0}) {
+    std::string callsOf(std::initializer_list<Point> points, const Marks& settings, Point offset = {0, 0}) {
         const HMODULE controls = ::GetModuleHandleW(L"OrtinControls.dll");
         const support::ImportPatch square(controls, "gdiplus.dll", "GdipDrawRectangle", &recordSquare);
         const support::ImportPatch circle(controls, "gdiplus.dll", "GdipDrawEllipse", &recordCircle);
@@ -66,13 +66,13 @@ protected:
 } // namespace
 
 TEST_F(ControlPoints, LieAroundTheTruncatedPointWithTheOffsetAdded) {
-    Settings settings = kSquare;
+    Marks settings = kSquare;
     settings.pointSize = 7;
     EXPECT_EQ("smoothing 3; interpolation 5; square 7,7 7x7; ", callsOf({{10.9F, 10.9F}}, settings, {0.5F, 0.5F}));
 }
 
 TEST_F(ControlPoints, AreCirclesAndSmoothWhenTold) {
-    Settings settings = kSquare;
+    Marks settings = kSquare;
     settings.circle = true;
     settings.smooth = true;
     EXPECT_EQ("smoothing 2; interpolation 2; circle 7,7 6x6; circle 17,7 6x6; ",
@@ -93,7 +93,7 @@ TEST_F(ControlPoints, AreFilledSquaresWithAnOutline) {
 }
 
 TEST_F(ControlPoints, LeaveTheInsideAsItIsWithoutFill) {
-    Settings settings = kSquare;
+    Marks settings = kSquare;
     settings.fill = false;
     draw({{10, 10}}, settings);
     const support::Pixels pixels = device.pixels();
@@ -103,7 +103,7 @@ TEST_F(ControlPoints, LeaveTheInsideAsItIsWithoutFill) {
 
 TEST_F(ControlPoints, AreInvisibleWithoutOpacityAndHalfVisibleWithHalf) {
     const support::Pixels before = device.pixels();
-    Settings settings = kSquare;
+    Marks settings = kSquare;
     settings.opacity = 0.0F;
     draw({{10, 10}}, settings);
     EXPECT_EQ(before, device.pixels());
@@ -130,7 +130,7 @@ TEST_F(ControlPoints, AtImpossiblePlacesAreDrawnAwayFromThePicture) {
     EXPECT_EQ(before, device.pixels());
     EXPECT_EQ("smoothing 3; interpolation 5; square 0,7 6x6; ", callsOf({{std::nanf(""), 10}}, kSquare, {20, 0}))
         << "what is no number counts as 0";
-    Settings vast = kSquare;
+    Marks vast = kSquare;
     vast.pointSize = std::numeric_limits<int>::max();
     vast.lineWidth = std::numeric_limits<int>::max();
     draw({{10, 10}}, vast);

@@ -43,20 +43,20 @@ Status WINGDIPAPI noteInterpolation(Gdiplus::GpGraphics*, Gdiplus::Interpolation
 Status WINGDIPAPI noteLine(Gdiplus::GpGraphics*, Gdiplus::GpPen* pen, REAL x1, REAL y1, REAL x2, REAL y2) {
     Gdiplus::ARGB color = 0;
     Gdiplus::DllExports::GdipGetPenColor(pen, &color);
-    note("line %g,%g %g,%g in %08X; ", x1, y1, x2, y2, static_cast<unsigned>(color));
+    note("line %.8g,%.8g %.8g,%.8g in %08X; ", x1, y1, x2, y2, static_cast<unsigned>(color));
     return Gdiplus::Ok;
 }
 Status WINGDIPAPI noteArc(Gdiplus::GpGraphics*, Gdiplus::GpPen*, INT x, INT y, INT width, INT height, REAL start,
                           REAL sweep) {
-    note("arc %d,%d %dx%d %g %g; ", x, y, width, height, start, sweep);
+    note("arc %d,%d %dx%d %.8g %.8g; ", x, y, width, height, start, sweep);
     return Gdiplus::Ok;
 }
 Status WINGDIPAPI noteEllipse(Gdiplus::GpGraphics*, Gdiplus::GpPen*, REAL x, REAL y, REAL width, REAL height) {
-    note("ellipse %g,%g %gx%g; ", x, y, width, height);
+    note("ellipse %.8g,%.8g %.8gx%.8g; ", x, y, width, height);
     return Gdiplus::Ok;
 }
 Status WINGDIPAPI noteFilledEllipse(Gdiplus::GpGraphics*, Gdiplus::GpBrush*, REAL x, REAL y, REAL width, REAL height) {
-    note("fill ellipse %g,%g %gx%g; ", x, y, width, height);
+    note("fill ellipse %.8g,%.8g %.8gx%.8g; ", x, y, width, height);
     return Gdiplus::Ok;
 }
 Status WINGDIPAPI notePolygon(Gdiplus::GpGraphics*, Gdiplus::GpPen*, const Gdiplus::Point* points, INT count) {
@@ -81,7 +81,7 @@ Status WINGDIPAPI noteFilledRect(Gdiplus::GpGraphics*, Gdiplus::GpBrush*, INT x,
     return Gdiplus::Ok;
 }
 Status WINGDIPAPI noteNewPen(Gdiplus::ARGB color, REAL width, Gdiplus::GpUnit unit, Gdiplus::GpPen** pen) {
-    note("pen %08X %g %d; ", static_cast<unsigned>(color), width, unit);
+    note("pen %08X %.8g %d; ", static_cast<unsigned>(color), width, unit);
     return Gdiplus::DllExports::GdipCreatePen1(color, width, unit, pen);
 }
 
@@ -299,14 +299,14 @@ TEST_F(GdiPlusPainter, SaturatesWhatGdiPlusWouldNotComeBackFrom) {
     line.SetId(0);
     shape.SetId(0);
     shape.FillRequired(false);
-    EXPECT_EQ("interpolation 2; smoothing 2; line 0,1.04858e+06 -1.04858e+06,5 in FFFF0000; ", callsOf([&] {
+    EXPECT_EQ("interpolation 2; smoothing 2; line 0,1048576 -1048576,5 in FFFF0000; ", callsOf([&] {
                   painter.DrawLine({std::nanf(""), kInfinity}, {-3e9F, 5}, &line, {0, 0});
               }));
     const Point points[] = {{kInfinity, -1e20F}, {std::nanf(""), 5}};
     EXPECT_EQ("interpolation 2; smoothing 2; polygon 1048576,-1048576 0,5; ", callsOf([&] {
                   painter.DrawPolygon(points, 2, &shape, {0, 0});
               }));
-    EXPECT_EQ("interpolation 2; smoothing 2; ellipse -1.04858e+06,0 1.04858e+06x0; ", callsOf([&] {
+    EXPECT_EQ("interpolation 2; smoothing 2; ellipse -1048576,0 1048576x0; ", callsOf([&] {
                   painter.DrawEllipse({-kInfinity, 0}, {5, std::nanf("")}, &shape, {0, 0});
               }));
     EXPECT_EQ("interpolation 2; smoothing 2; arc -1048576,-1048576 2097152x2097152 0 90; ", callsOf([&] {

@@ -246,7 +246,7 @@ TEST_F(Surfaces, LeaveNoHandlesBehindHoweverTheyEnd) {
         second.InitRender(CSize(30, 30));
         second.DrawLineList(points, 4, line, {0, 0});
         first = std::move(second);
-        second.InitRender(CSize(10, 10));
+        second.InitRender(CSize(10, 10)); // NOLINT(bugprone-use-after-move): it is as new
         second.Release();
     };
     live();

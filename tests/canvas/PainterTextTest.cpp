@@ -4,6 +4,7 @@
 
 #include <OrtinFoundation/TextSizeCalculator.h>
 
+#include "support/ImportPatch.h"
 #include "support/Resources.h"
 
 using VectorCanvas::DrawContextGdiText;
@@ -14,6 +15,13 @@ LOGFONTW descriptionOf(HGDIOBJ font) {
     LOGFONTW description{};
     ::GetObjectW(font, sizeof description, &description);
     return description;
+}
+
+std::vector<int> qualities;
+
+HFONT WINAPI noteQuality(const LOGFONTW* description) {
+    qualities.push_back(description->lfQuality);
+    return ::CreateFontIndirectW(description);
 }
 
 /// A font without smoothing, unless told otherwise.
@@ -119,12 +127,16 @@ TEST_F(PainterText, AtAPointIsFoundOnItsGlyphs) {
     }
 }
 
-TEST_F(PainterText, AtAPointLeavesNoFalseIdsWhenItsFontIsSmooth) {
-    const Font smooth(16, ANTIALIASED_QUALITY);
-    text.UpdateContext(smooth, kBlue);
-    painter.DrawTextW({10, 5}, L"Kurs 12,5 @", text, {0, 0});
-    const support::Pixels colours = picture();
-    ASSERT_LT(colours.count(kWhite) + colours.count(kBlue), 120U * 50U) << "the picture is smooth";
+TEST_F(PainterText, AtAPointIsFoundByGlyphsWithHardEdgesHoweverSmoothItsFont) {
+    text.UpdateContext(Font(40, CLEARTYPE_QUALITY), kBlue); // a height of its own: the quality is no part of the key
+    ASSERT_EQ(CLEARTYPE_QUALITY, descriptionOf(text.GetFont()).lfQuality);
+    qualities.clear();
+    {
+        const support::ImportPatch patch(::GetModuleHandleW(L"OrtinControls.dll"), "gdi32.dll", "CreateFontIndirectW",
+                                         &noteQuality);
+        painter.DrawTextW({10, 5}, L"Kurs", text, {0, 0});
+    }
+    EXPECT_EQ(std::vector<int>{NONANTIALIASED_QUALITY}, qualities) << "one font, for the shadow";
     EXPECT_EQ((std::set<unsigned int>{0, kId}), idsInShadow());
 }
 

@@ -17,12 +17,10 @@ class Canvas : public VectorCanvasCtrl {
 public:
     explicit Canvas(VectorCanvas::IVectorPainter* painter) : VectorCanvasCtrl(painter) { m_marginColor = kMargin; }
 
-    using VectorCanvasCtrl::Draw;
     using VectorCanvasCtrl::OnWndMsg;
 
     std::string* log = nullptr;
 
-protected:
     void Draw(CDC* dc, const CPoint& origin) override {
         if (log != nullptr) {
             *log += "draw " + std::to_string(origin.x) + ',' + std::to_string(origin.y) + "; ";
@@ -59,7 +57,8 @@ TEST_F(Canvases, AreNotMadeWithoutAPainter) {
 }
 
 TEST_F(Canvases, AreNotMadeWhereThereIsNoWindowToBeHad) {
-    EXPECT_EQ(0, canvas.Create(L"", WS_CHILD, CRect(0, 0, 10, 10), nullptr, 1));
+    CWnd parentWithoutWindow;
+    EXPECT_EQ(0, canvas.Create(L"", WS_CHILD, CRect(0, 0, 10, 10), &parentWithoutWindow, 1));
     EXPECT_EQ(CSize(0, 0), painter.GetViewport());
 }
 

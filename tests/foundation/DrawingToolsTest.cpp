@@ -45,7 +45,7 @@ TEST(ClipRegions, AreMadeOfARectangleAndReplaced) {
         EXPECT_EQ(CRect(second), box);
         const int one = liveGdiHandles();
         ClipRegion taker = std::move(region);
-        EXPECT_EQ(nullptr, region.GetHandle());
+        EXPECT_EQ(nullptr, region.GetHandle()); // NOLINT(bugprone-use-after-move): this is what is asked
         EXPECT_NE(nullptr, taker.GetHandle());
         EXPECT_EQ(one, liveGdiHandles());
         EXPECT_FALSE(taker.Create(nullptr));
@@ -81,7 +81,7 @@ TEST_F(Device, GetsBitmapsFromTheirOwner) {
         EXPECT_EQ(9, bitmap.bmWidth);
         EXPECT_EQ(1, bitmap.bmBitsPixel) << "as the device has it";
         CompatibleBitmapOwner taker = std::move(owner);
-        EXPECT_EQ(nullptr, owner.GetHandle());
+        EXPECT_EQ(nullptr, owner.GetHandle()); // NOLINT(bugprone-use-after-move): this is what is asked
         EXPECT_NE(nullptr, taker.GetHandle());
     }
     EXPECT_EQ(before, liveGdiHandles());
