@@ -1,10 +1,10 @@
 // The picture of the scroll and zoom bar.
 
 #include <OrtinControls/AdvancedScroll.h>
+#include <OrtinControls/GdiPlusHeaders.h>
 #include <OrtinControls/SystemColors.h>
 #include <XTToolkitPro.h>
 
-#include "../graphics/GdiPlusHeaders.h"
 #include "AdvancedScrollState.h"
 
 namespace {
