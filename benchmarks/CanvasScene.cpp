@@ -9,6 +9,8 @@ namespace {
 constexpr COLORREF kBackground = RGB(255, 255, 255);
 constexpr int kGridLines = 10;
 constexpr int kLabelHeight = 16;
+constexpr int kColumns = kChartWidth / 2;
+constexpr int kRowHeight = 11;
 
 void lines(HDC dc, const Shape& shape) {
     ::PolyPolyline(dc, shape.pixels.data(), shape.lengths.data(), static_cast<DWORD>(shape.lengths.size()));
@@ -57,9 +59,9 @@ Shape manyLines(int count) {
 Shape manyRects(int count) {
     Shape shape;
     for (int index = 0; index < count; ++index) {
-        const int x = index * 13 % kChartWidth;
-        const int y = index * 7 % kChartHeight;
-        shape.addRect(x, y, x + 3, y + 4 + index % 20);
+        const int x = index % kColumns * 2;
+        const int y = index / kColumns * kRowHeight;
+        shape.addRect(x, y, x + 2, y + 2 + index % (kRowHeight - 4));
     }
     return shape;
 }

@@ -25,7 +25,7 @@ struct Shape {
 
 /// Short lines all over the chart.
 Shape manyLines(int count);
-/// Narrow columns all over the chart.
+/// Narrow columns all over the chart, in rows, none over another.
 Shape manyRects(int count);
 
 /// A memory device with a picture as the painter has one, or as its shadow.
