@@ -7,7 +7,6 @@
 
 using VectorCanvas::DrawContextBase;
 using VectorCanvas::DrawContextGdiLine;
-using VectorCanvas::DrawControlPointsHelper;
 
 namespace {
 
