@@ -106,4 +106,9 @@ fi
 export ORTIN_PRINTED=$printed
 status=0
 "$@" || status=$?
+# What COMMAND has handed over is printed to its end.
+waited=0
+while [ -n "$(lpstat -o 2>/dev/null)" ] && [ $((waited += 1)) -le 600 ]; do
+    sleep 0.1
+done
 exit "$status"
