@@ -121,6 +121,14 @@ COLORREF rangeMarker() {
     return color(RoleRangeMarker);
 }
 
+COLORREF previewGround() {
+    return blend(color(RoleStrip), color(RoleMutedText), 0.25);
+}
+
+COLORREF previewShadow() {
+    return blend(previewGround(), RGB(0, 0, 0), 0.5);
+}
+
 COLORREF risen() {
     return color(RoleRisen);
 }

@@ -29,6 +29,9 @@ COLORREF foundPiece();
 COLORREF rangeTrack();
 COLORREF rangeReached();
 COLORREF rangeMarker();
+/// Around the pages of a preview, and under their edges.
+COLORREF previewGround();
+COLORREF previewShadow();
 COLORREF risen();
 COLORREF fallen();
 

@@ -6,10 +6,11 @@ namespace Desk {
 
 namespace {
 
-constexpr int TextHeight = 13;
 constexpr int HeaderStrutHeight = 20;
 
-void create(CFont& font, int height, LONG weight) {
+} // namespace
+
+void createDeskFont(CFont& font, int height, LONG weight) {
     LOGFONTW description{};
     description.lfHeight = -scaled(height);
     description.lfWeight = weight;
@@ -19,12 +20,10 @@ void create(CFont& font, int height, LONG weight) {
     font.CreateFontIndirect(&description);
 }
 
-} // namespace
-
 DeskFonts::DeskFonts() {
-    create(m_text, TextHeight, FW_NORMAL);
-    create(m_bold, TextHeight, FW_BOLD);
-    create(m_headerStrut, HeaderStrutHeight, FW_NORMAL);
+    createDeskFont(m_text, DeskTextHeight, FW_NORMAL);
+    createDeskFont(m_bold, DeskTextHeight, FW_BOLD);
+    createDeskFont(m_headerStrut, HeaderStrutHeight, FW_NORMAL);
     m_measuring.CreateCompatibleDC(nullptr);
     m_measuring.SelectObject(&m_text);
     TEXTMETRICW metrics{};

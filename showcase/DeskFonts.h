@@ -6,6 +6,12 @@
 
 namespace Desk {
 
+/// The height of the letters, at 96 pixels to the inch.
+inline constexpr int DeskTextHeight = 13;
+
+/// Makes a font in the desk's typeface; `height` at 96 pixels to the inch.
+void createDeskFont(CFont& font, int height, LONG weight);
+
 /// The desk's typefaces at the screen's scale, and sizes that come from them.
 class DeskFonts {
 public:

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "DeskColors.h"
+#include "DeskShapes.h"
 #include "ScopedSelection.h"
 
 namespace Desk {
@@ -75,7 +76,7 @@ bool DeskMenu::draw(const DRAWITEMSTRUCT& item) {
     CRect check = rect;
     check.right = check.left + scaled(CheckRoom);
     if (line->checked)
-        drawCheckMark(dc, check, color);
+        drawCheckMark(dc, check.CenterPoint(), color);
     const ScopedSelection font(dc, m_fonts.text());
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(color);
@@ -85,15 +86,6 @@ bool DeskMenu::draw(const DRAWITEMSTRUCT& item) {
     dc.SetTextColor(Colors::mutedText());
     dc.DrawText(line->keys.c_str(), -1, &rect, DT_RIGHT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
     return true;
-}
-
-void DeskMenu::drawCheckMark(CDC& dc, const CRect& area, COLORREF color) {
-    const CPoint centre = area.CenterPoint();
-    CPen pen(PS_SOLID, std::max(1, scaled(2)), color);
-    const ScopedSelection selected(dc, pen);
-    dc.MoveTo(centre.x - scaled(4), centre.y);
-    dc.LineTo(centre.x - scaled(1), centre.y + scaled(3));
-    dc.LineTo(centre.x + scaled(5), centre.y - scaled(4));
 }
 
 } // namespace Desk

@@ -34,7 +34,6 @@ public:
 
 private:
     const MenuLine* lineOf(ULONG_PTR itemData) const;
-    static void drawCheckMark(CDC& dc, const CRect& area, COLORREF color);
 
     DeskFonts& m_fonts;
     /// While shown.

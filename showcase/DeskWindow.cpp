@@ -2,11 +2,11 @@
 
 #include <OrtinControls/SystemColors.h>
 #include <XTToolkitPro.h>
-#include <dwmapi.h>
 
 #include <algorithm>
 
 #include "DeskColors.h"
+#include "DeskDialog.h"
 #include "StandardStreams.h"
 #include "core/PolishFormat.h"
 
@@ -24,20 +24,15 @@ constexpr int StartWidth = 1060;
 constexpr int StartHeight = 700;
 constexpr int LeastTableHeight = 160;
 
+/// Where the library's preview of pages looks for its colours.
+constexpr unsigned int PreviewGround = 35;
+constexpr unsigned int PreviewShadow = 54;
+
 constexpr UINT_PTR FadingTimer = 1;
 constexpr UINT FadingPause = 50;
 constexpr UINT_PTR AutoscrollTimer = 2;
 constexpr UINT AutoscrollPause = 15;
 constexpr std::uint64_t TickSeed = 7;
-
-enum StatusField : std::size_t { RowsField, SelectionField, TickField };
-
-/// Windows 10 and later paint the title bar dark on demand; where there is no such attribute nothing happens.
-void setDarkTitleBar(HWND window, bool dark) {
-    constexpr DWORD UseImmersiveDarkMode = 20;
-    const BOOL value = dark ? TRUE : FALSE;
-    ::DwmSetWindowAttribute(window, UseImmersiveDarkMode, &value, sizeof(value));
-}
 
 ColumnLayout firstLayout() {
     ColumnLayout layout;
@@ -81,6 +76,7 @@ DeskWindow::DeskWindow(std::vector<Instrument> instruments, DeskSettings setting
       m_settingsFile(std::move(settingsFile)),
       m_handler(m_book, m_fonts, *this),
       m_table(m_fonts),
+      m_printing(m_table, m_handler, m_fonts),
       m_strip(m_fonts, *this),
       m_status(m_fonts),
       m_menu(m_fonts) {}
@@ -123,6 +119,7 @@ BOOL DeskWindow::createTable() {
         return FALSE;
     m_body = m_table.body();
     m_table.SetTableHandler(&m_handler);
+    m_table.leaveRoomOnPaper(m_handler.sheetSizes());
     m_table.SetContextMenuHandler(std::make_shared<RowMenu>(*this));
     m_table.onHeaderMenu = [this](CPoint screen) { showHeaderMenu(screen); };
     m_table.LockColumns(m_settings.lockedColumns);
@@ -337,6 +334,8 @@ void DeskWindow::onSwitch(StripSwitch which) {
 void DeskWindow::setTheme(DeskTheme theme) {
     m_settings.theme = theme;
     SystemColors::SetThemeColor(theme == DeskTheme::Black ? EThemeColor::BlackTheme : EThemeColor::WhiteTheme);
+    SystemColors::UpdateColor(PreviewGround, Colors::previewGround());
+    SystemColors::UpdateColor(PreviewShadow, Colors::previewShadow());
     setDarkTitleBar(m_hWnd, theme == DeskTheme::Black);
     m_table.RefreshProgramStyleColors();
     m_table.Redraw();

@@ -12,6 +12,7 @@
 #include "DeskSettings.h"
 #include "QuoteBook.h"
 #include "QuotesHandler.h"
+#include "QuotesPrinting.h"
 #include "QuotesTable.h"
 #include "StatusLine.h"
 #include "TickFeed.h"
@@ -37,6 +38,7 @@ public:
 
     QuotesTable& table() { return m_table; }
     TopStrip& strip() { return m_strip; }
+    QuotesPrinting& printing() { return m_printing; }
     void setTheme(DeskTheme theme);
 
     BOOL PreTranslateMessage(MSG* message) override;
@@ -62,6 +64,7 @@ protected:
 
 private:
     class RowMenu;
+    enum StatusField : std::size_t { RowsField, SelectionField, TickField };
 
     // QuotesEvents
     void onSelectionChanged() override;
@@ -87,6 +90,7 @@ private:
     bool runShortcut(const MSG& message);
     bool moveFocus(WPARAM key, KeyPlace place);
     void run(Command command);
+    void report(const std::optional<PrintReport>& report);
     bool runChosen(UINT chosen);
     bool typeIntoFindBox(const MSG& message);
     void focusTable();
@@ -101,6 +105,7 @@ private:
     std::wstring m_settingsFile;
     QuotesHandler m_handler;
     QuotesTable m_table;
+    QuotesPrinting m_printing;
     CWnd* m_body = nullptr; ///< the table's
     DeskScrollBar m_scrollBar;
     TopStrip m_strip;

@@ -112,7 +112,20 @@ void DeskWindow::run(Command command) {
     case Command::FitAllColumns:
         fitAllColumns();
         break;
+    case Command::Print:
+        report(m_printing.askAndPrint(*this));
+        break;
+    case Command::Preview:
+        report(m_printing.showPreview(*this));
+        break;
     }
+}
+
+/// What the user did not leave without printing is told in the status line.
+void DeskWindow::report(const std::optional<PrintReport>& report) {
+    focusTable();
+    if (report)
+        m_status.setField(TickField, report->text);
 }
 
 bool DeskWindow::typeIntoFindBox(const MSG& message) {
@@ -164,6 +177,9 @@ void DeskWindow::showRowMenu(CPoint screen) {
                                 {},
                                 lineOf(Command::SelectAll, L"Zaznacz wszystkie"),
                                 lineOf(Command::Find, L"Znajdź"),
+                                {},
+                                lineOf(Command::Preview, L"Podgląd wydruku"),
+                                lineOf(Command::Print, L"Drukuj"),
                             }));
 }
 

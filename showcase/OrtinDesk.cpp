@@ -52,6 +52,7 @@ struct Start {
     std::vector<Instrument> instruments;
     DeskSettings settings;
     std::wstring settingsFile;
+    std::optional<Printer> printer;
 };
 
 std::vector<Instrument> loadInstruments(const DeskOptions& options) {
@@ -84,10 +85,26 @@ void takeSettings(const DeskOptions& options, Start& start) {
         printError(status.GetMessageText() + L"; plik zostaje, a nowe ustawienia nie będą zapamiętane");
 }
 
+Printer findPrinter(const std::wstring& name) {
+    if (std::optional<Printer> printer = printerNamed(name))
+        return *std::move(printer);
+    std::wstring text = L"--print: ";
+    const std::vector<Printer> known = systemPrinters();
+    if (known.empty())
+        throw Refusal{text + L"w systemie nie ma żadnej drukarki; dodaj drukarkę i spróbuj jeszcze raz",
+                      NotOfferedExitCode};
+    text += L"nie ma drukarki „" + name + L"”; są:";
+    for (const Printer& printer : known)
+        text += L' ' + printer.name;
+    throw Refusal{std::move(text), NotOfferedExitCode};
+}
+
 Start prepare(const DeskOptions& options) {
     Start start;
     start.instruments = loadInstruments(options);
     takeSettings(options, start);
+    if (options.print)
+        start.printer = findPrinter(*options.print);
     if (options.theme)
         start.settings.theme = *options.theme;
     if (options.shots) {
@@ -112,6 +129,7 @@ public:
 
 private:
     bool openDesk(Start start, const DeskOptions& options);
+    bool printTable(const Start& start);
     bool writeShots(const Start& start, const DeskOptions& options);
     void refuse(const Refusal& refusal);
 
@@ -135,9 +153,9 @@ BOOL DeskApp::InitInstance() {
     m_gdiplus.emplace();
     try {
         Start start = prepare(options);
-        if (!options.shots)
+        if (!options.shots && !options.print)
             return openDesk(std::move(start), options);
-        if (!writeShots(start, options))
+        if (!(options.shots ? writeShots(start, options) : printTable(start)))
             m_exitCode = 1;
         return FALSE;
     } catch (const Refusal& refusal) {
@@ -160,6 +178,22 @@ bool DeskApp::openDesk(Start start, const DeskOptions& options) {
     return true;
 }
 
+/// Prints from a desk that nobody sees.
+bool DeskApp::printTable(const Start& start) {
+    DeskWindow desk(start.instruments, start.settings, std::wstring());
+    if (!desk.open()) {
+        printError(L"nie można utworzyć okna");
+        return false;
+    }
+    const PrintReport report = desk.printing().printAll(*start.printer);
+    const bool sent = report.outcome == PrintOutcome::Sent;
+    if (sent)
+        printLine(report.text);
+    else
+        printError(report.text);
+    return sent;
+}
+
 bool DeskApp::writeShots(const Start& start, const DeskOptions& options) {
     const auto makeDesk = [&start]() -> std::unique_ptr<DeskWindow> {
         auto desk = std::make_unique<DeskWindow>(start.instruments, start.settings, std::wstring());
@@ -170,7 +204,7 @@ bool DeskApp::writeShots(const Start& start, const DeskOptions& options) {
         desk->ShowWindow(SW_SHOWNOACTIVATE);
         return desk;
     };
-    return Scenes(makeDesk, *options.shots).write(options.scene);
+    return Scenes(makeDesk, *options.shots, start.printer).write(options.scene);
 }
 
 void DeskApp::refuse(const Refusal& refusal) {

@@ -40,7 +40,10 @@ QuotesHandler::QuotesHandler(QuoteBook& book, DeskFonts& fonts, QuotesEvents& ev
       m_fonts(fonts),
       m_events(events),
       m_widths(book, fonts),
-      m_painter(book, m_widths, fonts) {}
+      m_painter(book, m_widths, fonts),
+      m_page(book, m_painter.rowHeight()) {
+    m_caption = L"Notowania";
+}
 
 // Columns and rows
 
@@ -119,23 +122,29 @@ void QuotesHandler::noteRows() {
 void QuotesHandler::PrepareDraw() {
     CRect client;
     m_list->GetClientRect(&client);
-    m_cells.clear();
+    m_cells = cellsIn(client.right);
     m_drawnRows.clear();
     // Whatever made the view stale had it redrawn whole: this paint shows it.
     m_viewIsStale = false;
+}
+
+/// The visible cells of a row from the left.
+std::vector<CellSpan> QuotesHandler::cellsIn(int viewWidth) const {
+    std::vector<CellSpan> cells;
     int left = 0;
     for (int position = 0; position < m_view->GetColumnCount(); ++position) {
         const int id = m_view->GetColumnId(position);
         if (!m_view->GetColumnVisibility(id))
             continue;
         const int right = left + m_view->GetColumnWidth(id);
-        m_cells.push_back({columnOf(id), left, right});
+        cells.push_back({columnOf(id), left, right});
         left = right;
     }
     // The widths are laid out for the whole window, whose right edge is under the scroll bar; and pixels lost to
     // rounding are missing at the end. Either way the last column ends with the view.
-    if (!m_cells.empty() && (m_cells.back().right > client.right || !m_view->AreColumnsLocked()))
-        m_cells.back().right = std::max(m_cells.back().left, static_cast<int>(client.right));
+    if (!cells.empty() && (cells.back().right > viewWidth || !m_view->AreColumnsLocked()))
+        cells.back().right = std::max(cells.back().left, viewWidth);
+    return cells;
 }
 
 int QuotesHandler::DrawItem(CDC& dc, int row, const CRect& rect) {

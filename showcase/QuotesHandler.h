@@ -1,15 +1,18 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
 
 #include <OrtinControls/ITableHandler.h>
+#include <OrtinControls/PrintDialogContext.h>
 
 #include "CellWidths.h"
 #include "DeskFonts.h"
 #include "QuoteBook.h"
+#include "QuotesPage.h"
 #include "QuotesPainter.h"
 #include "core/ColumnLayout.h"
 #include "core/FindModel.h"
@@ -61,6 +64,17 @@ public:
     /// Brings the search up to date after rows or columns came to be others.
     void searchAgain();
 
+    /// What stands around the rows on paper; the table leaves its room free.
+    const SheetSizes& sheetSizes() const { return m_page.sizes(); }
+    /// The rows that a print of the selection holds: from the first selected one to the last. Nothing without any.
+    std::optional<RowRange> rowsOfSelection() const;
+    /// The table prints what lies between caret and anchor; while this is on, these are the ends of the selection.
+    void tellEndsOfSelection(bool on) { m_tellsEndsOfSelection = on; }
+    /// Called after each page that was drawn on paper, with its number.
+    std::function<void(int page)> onPageDrawn;
+    /// When what is printed from now on is said to be printed; nothing if empty.
+    void setPrintTime(std::wstring time) { m_printTime = std::move(time); }
+
     void setAutoscroll(bool on);
     void repaintAll();
     /// Scrolls the caret row into view and tells where it lies there.
@@ -81,12 +95,16 @@ public:
     void OnColumnWidthChanged() override;
     __int64 GetToolTip(CRect& rect, CString& text) override;
 
+    // ITableHandler: paper
+    bool DrawPrintRequestedItems(int firstRow, int lastRow, const CRect& rect, const PrintInfo& info,
+                                 const std::vector<std::pair<unsigned __int64, int>>& rows, CDC& dc) override;
+
     // ITableHandler: selection and keys
     int OnKey(unsigned int key, int pageRows) override;
     int OnKey(unsigned int key) override;
     void OnItemClick(int row, const CPoint& local, bool extend, unsigned int flags) override;
-    int GetSelectedItem() const override { return m_selection.caret(); }
-    int GetSelectedItemStart() const override { return m_selection.anchor(); }
+    int GetSelectedItem() const override;
+    int GetSelectedItemStart() const override;
     void SetSelectedItem(int row, bool followsRowChange) override;
     void SelectPosition(int column, int row) override;
     CPoint GetSelectedPosition() override;
@@ -130,6 +148,8 @@ private:
     static unsigned __int64 dataOf(std::size_t instrument) { return instrument + 1; }
     std::size_t instrumentAt(int row) const;
     std::optional<std::size_t> cellAt(int x) const;
+    std::vector<CellSpan> cellsIn(int viewWidth) const;
+    std::wstring partText(EPrintOption option) const;
     std::vector<QuoteColumn> visibleColumns() const;
     std::vector<std::size_t> selectedInstruments() const;
     void noteRows();
@@ -148,6 +168,9 @@ private:
     QuotesEvents& m_events;
     CellWidths m_widths;
     QuotesPainter m_painter;
+    QuotesPage m_page;
+    std::wstring m_printTime;
+    bool m_tellsEndsOfSelection = false;
 
     ITableView* m_view = nullptr;
     CWnd* m_list = nullptr;

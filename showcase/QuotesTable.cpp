@@ -4,6 +4,7 @@
 
 #include "DeskColors.h"
 #include "KeyPresses.h"
+#include "QuotesHandler.h"
 #include "ScopedSelection.h"
 
 namespace Desk {
@@ -13,6 +14,23 @@ namespace {
 constexpr int HeaderPadding = 7;
 constexpr int ArrowWidth = 7;
 constexpr int LongestTitle = 80;
+
+/// Lets the quotes tell the ends of their selection for a scope.
+class EndsOfSelection {
+public:
+    explicit EndsOfSelection(ITableHandler* handler) : m_quotes(dynamic_cast<QuotesHandler*>(handler)) { tell(true); }
+    ~EndsOfSelection() { tell(false); }
+    EndsOfSelection(const EndsOfSelection&) = delete;
+    EndsOfSelection& operator=(const EndsOfSelection&) = delete;
+
+private:
+    void tell(bool on) {
+        if (m_quotes)
+            m_quotes->tellEndsOfSelection(on);
+    }
+
+    QuotesHandler* m_quotes;
+};
 
 void drawSortArrow(CDC& dc, const CRect& area, bool down) {
     const int half = scaled(ArrowWidth) / 2;
@@ -28,7 +46,7 @@ void drawSortArrow(CDC& dc, const CRect& area, bool down) {
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(QuotesTable, TableCtrl)
+BEGIN_MESSAGE_MAP(QuotesTable, TableCtrlPrintable)
     ON_WM_CONTEXTMENU()
     ON_NOTIFY(NM_CUSTOMDRAW, QuotesTable::HeaderId, &QuotesTable::OnHeaderCustomDraw)
 END_MESSAGE_MAP()
@@ -52,11 +70,34 @@ void QuotesTable::alignTitleRight(int id) {
     header()->SendMessage(HDM_SETITEMW, static_cast<WPARAM>(id), reinterpret_cast<LPARAM>(&item));
 }
 
+void QuotesTable::leaveRoomOnPaper(const SheetSizes& sizes) {
+    m_marginLeft = sizes.edge;
+    m_marginRight = sizes.edge;
+    m_marginTop = marginAboveRows(sizes);
+    m_marginBottom = marginBelowRows(sizes);
+}
+
+int QuotesTable::OnPreparePrinting(PrintInfo* info) {
+    const EndsOfSelection ends(GetHandler());
+    return TableCtrlPrintable::OnPreparePrinting(info);
+}
+
+void QuotesTable::OnBeginPrinting(CDC* dc, PrintInfo* info) {
+    const EndsOfSelection ends(GetHandler());
+    TableCtrlPrintable::OnBeginPrinting(dc, info);
+}
+
+int QuotesTable::widthOnPaper() const {
+    CRect client;
+    GetClientRect(&client);
+    return m_marginLeft + client.Width() + m_marginRight;
+}
+
 BOOL QuotesTable::PreTranslateMessage(MSG* message) {
     if (message && message->message == WM_KEYDOWN && message->hwnd == body()->GetSafeHwnd() &&
         searchOutlives(keyPressOf(*message, KeyPlace::Rows)))
         return GetParent()->PreTranslateMessage(message);
-    return TableCtrl::PreTranslateMessage(message);
+    return TableCtrlPrintable::PreTranslateMessage(message);
 }
 
 void QuotesTable::UpdateListPos() {
@@ -72,7 +113,7 @@ void QuotesTable::OnContextMenu(CWnd* window, CPoint screen) {
     if (onHeaderMenu && window && window->GetSafeHwnd() == header()->GetSafeHwnd())
         onHeaderMenu(screen);
     else
-        TableCtrl::OnContextMenu(window, screen);
+        TableCtrlPrintable::OnContextMenu(window, screen);
 }
 
 void QuotesTable::OnHeaderCustomDraw(NMHDR* notification, LRESULT* result) {

@@ -2,15 +2,16 @@
 
 #include <functional>
 
-#include <OrtinControls/TableCtrl.h>
+#include <OrtinControls/TableCtrlPrintable.h>
 
 #include "DeskFonts.h"
+#include "core/SheetBands.h"
 
 namespace Desk {
 
 /// The table in the desk's looks: the header is painted by theme, and the system's scroll bar, which knows no theme, is
 /// pushed out of sight beyond the right edge: `DeskScrollBar` stands for it.
-class QuotesTable : public TableCtrl {
+class QuotesTable : public TableCtrlPrintable {
 public:
     /// The windows of every table.
     static constexpr int BodyId = 11112;
@@ -25,8 +26,16 @@ public:
     void layOutHeader();
     /// Titles over figures stand at the right, as the figures do.
     void alignTitleRight(int id);
+    /// Keeps the rows of a printed page out of what else stands on it.
+    void leaveRoomOnPaper(const SheetSizes& sizes);
+    /// The width of a printed page, in pixels of the table.
+    int widthOnPaper() const;
     /// Called with the screen point of a context menu that is asked for on the header.
     std::function<void(CPoint screen)> onHeaderMenu;
+
+    // What the selection is, is asked by these two: the rows between its ends, wherever the caret stands.
+    int OnPreparePrinting(PrintInfo* info) override;
+    void OnBeginPrinting(CDC* dc, PrintInfo* info) override;
 
     /// Keeps keys that a search outlives away from the body, for which every key ends it.
     BOOL PreTranslateMessage(MSG* message) override;

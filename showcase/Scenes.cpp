@@ -9,6 +9,23 @@ namespace Desk {
 namespace {
 
 constexpr std::size_t PhraseLength = 4;
+/// Where the status window of a print job names the page.
+constexpr int StatusPageItem = 204;
+
+/// The status window of the job that this thread prints; null if there is none.
+CWnd* statusWindow() {
+    HWND found = nullptr;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM place) -> BOOL {
+            if (!::IsWindowVisible(window) || !::GetDlgItem(window, StatusPageItem))
+                return TRUE;
+            *reinterpret_cast<HWND*>(place) = window;
+            return FALSE;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    return found ? CWnd::FromHandle(found) : nullptr;
+}
 
 LPARAM packed(CPoint point) {
     return MAKELPARAM(point.x, point.y);
@@ -16,11 +33,14 @@ LPARAM packed(CPoint point) {
 
 } // namespace
 
-Scenes::Scenes(MakeDesk makeDesk, std::wstring folder) : m_makeDesk(std::move(makeDesk)), m_folder(std::move(folder)) {}
+Scenes::Scenes(MakeDesk makeDesk, std::wstring folder, std::optional<Printer> printer)
+    : m_makeDesk(std::move(makeDesk)),
+      m_folder(std::move(folder)),
+      m_printer(std::move(printer)) {}
 
 bool Scenes::write(const std::optional<std::wstring>& only) {
     for (const std::wstring& name : sceneNames())
-        if ((!only || *only == name) && !writeScene(name))
+        if ((!only || *only == name) && (m_printer || !needsPrinter(name)) && !writeScene(name))
             return false;
     return true;
 }
@@ -29,7 +49,7 @@ bool Scenes::writeScene(const std::wstring& name) {
     m_desk = m_makeDesk();
     if (!m_desk)
         return false;
-    m_desk->setTheme(name == L"table-black" || name == L"table-found" ? DeskTheme::Black : DeskTheme::White);
+    m_desk->setTheme(name.ends_with(L"-black") || name == L"table-found" ? DeskTheme::Black : DeskTheme::White);
     m_desk->SetFocus();
     if (name == L"table-sorted")
         showSorted();
@@ -37,10 +57,65 @@ bool Scenes::writeScene(const std::wstring& name) {
         takeColumn(3, 1);
     else if (name == L"table-found")
         showFound();
-    settle();
-    const bool written = writePicture(name);
+    settle(*m_desk);
+    bool written = false;
+    if (name.starts_with(L"preview-"))
+        written = writePreview(name);
+    else if (name.starts_with(L"printer-dialog-"))
+        written = writePrinterDialog(name);
+    else if (name == L"print-status")
+        written = writePrintStatus(name);
+    else
+        written = writePicture(*m_desk, name);
     m_desk.reset();
     return written;
+}
+
+bool Scenes::writePreview(const std::wstring& name) {
+    const std::unique_ptr<PreviewDialog> preview = m_desk->printing().makePreview(*m_printer);
+    if (!preview->open(*m_desk))
+        return false;
+    preview->ShowWindow(SW_SHOWNOACTIVATE);
+    settle(*preview);
+    const bool written = writePicture(*preview, name);
+    preview->DestroyWindow();
+    return written;
+}
+
+bool Scenes::writePrinterDialog(const std::wstring& name) {
+    quotes().selectAllRows();
+    const std::unique_ptr<PrinterQuestion> question = m_desk->printing().makeQuestion(*m_printer);
+    if (!question->dialog.open(*m_desk))
+        return false;
+    question->dialog.ShowWindow(SW_SHOWNOACTIVATE);
+    settle(question->dialog);
+    const bool written = writePicture(question->dialog, name);
+    question->dialog.DestroyWindow();
+    return written;
+}
+
+/// Prints the whole table, and takes a picture of the status window while a page is being printed.
+bool Scenes::writePrintStatus(const std::wstring& name) {
+    bool written = false;
+    quotes().onPageDrawn = [&](int page) {
+        if (page != 1)
+            return;
+        if (CWnd* status = statusWindow()) {
+            settle(*status);
+            written = writePicture(*status, name);
+        }
+    };
+    const PrintReport report = m_desk->printing().printAll(*m_printer);
+    quotes().onPageDrawn = nullptr;
+    if (report.outcome == PrintOutcome::Sent)
+        printLine(report.text);
+    else
+        printError(report.text);
+    return written && report.outcome == PrintOutcome::Sent;
+}
+
+QuotesHandler& Scenes::quotes() {
+    return static_cast<QuotesHandler&>(*m_desk->table().GetHandler());
 }
 
 void Scenes::showSorted() {
@@ -53,9 +128,8 @@ void Scenes::showSorted() {
 
 void Scenes::showFound() {
     FindBox& findBox = m_desk->strip().findBox();
-    const auto* quotes = static_cast<const QuotesHandler*>(m_desk->table().GetHandler());
-    const std::wstring phrase =
-        quotes->book().size() > 0 ? quotes->book().text(0, QuoteColumn::Sector).substr(0, PhraseLength) : L"a";
+    const QuoteBook& book = quotes().book();
+    const std::wstring phrase = book.size() > 0 ? book.text(0, QuoteColumn::Sector).substr(0, PhraseLength) : L"a";
     findBox.edit();
     for (const wchar_t letter : phrase)
         findBox.SendMessage(WM_CHAR, letter);
@@ -63,10 +137,10 @@ void Scenes::showFound() {
     ::HideCaret(findBox);
 }
 
-bool Scenes::writePicture(const std::wstring& name) {
+bool Scenes::writePicture(CWnd& shown, const std::wstring& name) {
     CRect client;
-    m_desk->GetClientRect(&client);
-    CClientDC window(m_desk.get());
+    shown.GetClientRect(&client);
+    CClientDC window(&shown);
     CDC memory;
     memory.CreateCompatibleDC(&window);
     CBitmap bitmap;
@@ -106,9 +180,9 @@ void Scenes::takeColumn(int from, int to) {
     header->SendMessage(WM_MOUSEMOVE, MK_LBUTTON, packed(headerCentre(to)));
 }
 
-void Scenes::settle() {
+void Scenes::settle(CWnd& window) {
     // What waits in the queue stays there: it tells of the real mouse, which has no part in a scene.
-    m_desk->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    window.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
 }
 
 } // namespace Desk

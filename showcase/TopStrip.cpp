@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "DeskColors.h"
+#include "DeskShapes.h"
 #include "ScopedSelection.h"
 #include "core/Commands.h"
 #include "core/PolishFormat.h"
@@ -40,14 +41,6 @@ constexpr std::array<SwitchText, StripSwitchCount> SwitchTexts{
 /// The widest count that keeps its place free.
 constexpr wchar_t WidestCount[] = L"9999 z 9999";
 
-void fillRound(CDC& dc, const CRect& rect, int diameter, COLORREF fill, COLORREF frame) {
-    CPen pen(PS_SOLID, 1, frame);
-    CBrush brush(fill);
-    const ScopedSelection selectedPen(dc, pen);
-    const ScopedSelection selectedBrush(dc, brush);
-    dc.RoundRect(rect.left, rect.top, rect.right, rect.bottom, diameter, diameter);
-}
-
 void drawLens(CDC& dc, CPoint centre) {
     const int radius = scaled(4);
     CPen pen(PS_SOLID, std::max(1, scaled(3) / 2), Colors::mutedText());
@@ -56,16 +49,6 @@ void drawLens(CDC& dc, CPoint centre) {
     dc.Ellipse(centre.x - radius - 1, centre.y - radius - 1, centre.x + radius, centre.y + radius);
     dc.MoveTo(centre.x + radius - 2, centre.y + radius - 2);
     dc.LineTo(centre.x + 2 * radius - 1, centre.y + 2 * radius - 1);
-}
-
-void drawChevron(CDC& dc, CPoint centre, bool down, COLORREF color) {
-    const int reach = scaled(4);
-    const int rise = down ? scaled(2) : -scaled(2);
-    CPen pen(PS_SOLID, std::max(1, scaled(3) / 2), color);
-    const ScopedSelection selectedPen(dc, pen);
-    dc.MoveTo(centre.x - reach, centre.y - rise);
-    dc.LineTo(centre.x, centre.y + rise);
-    dc.LineTo(centre.x + reach + 1, centre.y - rise - (down ? 1 : -1));
 }
 
 } // namespace

@@ -9,6 +9,24 @@ namespace {
 
 constexpr int MostTicksPerSecond = 100000;
 
+struct Scene {
+    const wchar_t* name;
+    bool needsPrinter = false;
+};
+
+constexpr std::array Scenes{
+    Scene{L"table-white"},
+    Scene{L"table-black"},
+    Scene{L"table-sorted"},
+    Scene{L"table-moving-column"},
+    Scene{L"table-found"},
+    Scene{L"preview-white", true},
+    Scene{L"preview-black", true},
+    Scene{L"printer-dialog-white", true},
+    Scene{L"printer-dialog-black", true},
+    Scene{L"print-status", true},
+};
+
 Refusal badInput(std::wstring text) {
     return {std::move(text), BadInputExitCode};
 }
@@ -80,8 +98,9 @@ constexpr std::array ValueOptions{
     ValueOption{L"--scene", takeScene},
     ValueOption{L"--ticks", takeTicks},
     ValueOption{L"--print",
-                [](DeskOptions&, const std::wstring&) -> std::optional<Refusal> {
-                    return Refusal{L"--print: ta wersja jeszcze nie drukuje", NotOfferedExitCode};
+                [](DeskOptions& options, const std::wstring& value) -> std::optional<Refusal> {
+                    options.print = value;
+                    return std::nullopt;
                 }},
     ValueOption{L"--candles",
                 [](DeskOptions&, const std::wstring&) -> std::optional<Refusal> {
@@ -92,9 +111,17 @@ constexpr std::array ValueOptions{
 } // namespace
 
 const std::vector<std::wstring>& sceneNames() {
-    static const std::vector<std::wstring> names{L"table-white", L"table-black", L"table-sorted",
-                                                 L"table-moving-column", L"table-found"};
+    static const std::vector<std::wstring> names = [] {
+        std::vector<std::wstring> all(Scenes.size());
+        std::transform(Scenes.begin(), Scenes.end(), all.begin(), [](const Scene& scene) { return scene.name; });
+        return all;
+    }();
     return names;
+}
+
+bool needsPrinter(const std::wstring& scene) {
+    return std::any_of(Scenes.begin(), Scenes.end(),
+                       [&](const Scene& known) { return known.needsPrinter && scene == known.name; });
 }
 
 std::variant<DeskOptions, Refusal> parseCommandLine(const std::vector<std::wstring>& arguments) {
@@ -116,6 +143,8 @@ std::variant<DeskOptions, Refusal> parseCommandLine(const std::vector<std::wstri
     }
     if (options.scene && !options.shots)
         return badInput(L"--scene: brak --shots; podaj folder, do którego ma trafić obraz");
+    if (options.scene && needsPrinter(*options.scene) && !options.print)
+        return badInput(L"--scene: do „" + *options.scene + L"” potrzeba --print; podaj nazwę drukarki");
     return options;
 }
 
@@ -126,7 +155,8 @@ std::wstring helpText() {
         L"  --theme white|black     motyw; bez niej ostatnio używany; z --shots bez znaczenia\n"
         L"  --ticks N               zmiany kursów na sekundę, losowe, ale powtarzalne; z --shots bez znaczenia\n"
         L"  --settings PLIK         gdzie pamiętać układ kolumn; bez niej w danych użytkownika\n"
-        L"  --shots FOLDER          zapisz obrazy scen (PNG) i zakończ\n"
+        L"  --print DRUKARKA        wydrukuj tabelę bez pytania i zakończ\n"
+        L"  --shots FOLDER          zapisz obrazy scen (PNG) i zakończ; sceny druku tylko z --print\n"
         L"  --scene NAZWA           z --shots: tylko jedna scena:";
     for (const std::wstring& name : sceneNames())
         text += L"\n                            " + name;

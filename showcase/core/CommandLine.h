@@ -17,6 +17,8 @@ struct DeskOptions {
     std::optional<std::wstring> shots;
     std::optional<std::wstring> scene;
     std::optional<std::wstring> settings;
+    /// The printer on which the table is printed without a question; the desk ends by itself then.
+    std::optional<std::wstring> print;
     int ticksPerSecond = 0;
     bool help = false;
 };
@@ -34,6 +36,8 @@ inline constexpr int NotOfferedExitCode = 3;
 
 /// The names of the scenes, in the order in which they are written.
 const std::vector<std::wstring>& sceneNames();
+/// Whether the scene shows how the table is printed: it is written only with a printer.
+bool needsPrinter(const std::wstring& scene);
 
 /// `arguments` without the program's name. Looks at no file.
 std::variant<DeskOptions, Refusal> parseCommandLine(const std::vector<std::wstring>& arguments);

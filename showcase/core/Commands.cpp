@@ -38,6 +38,8 @@ constexpr std::array Shortcuts{
     Shortcut{Command::FindNext, L"Enter", ReturnKey, false, false, KeyPlace::FindBox},
     Shortcut{Command::FindPrevious, L"Shift+F3", F3Key, false, true},
     Shortcut{Command::FindPrevious, L"Shift+Enter", ReturnKey, false, true, KeyPlace::FindBox},
+    Shortcut{Command::Print, L"Ctrl+P", 'P', true},
+    Shortcut{Command::Preview, L"Ctrl+Shift+P", 'P', true, true},
     Shortcut{Command::SwitchAutoscroll, L"F6", F6Key},
     Shortcut{Command::SwitchLockedColumns, L"F7", F7Key},
     Shortcut{Command::SwitchTheme, L"F8", F8Key},

@@ -16,6 +16,8 @@ enum class Command {
     SwitchLockedColumns,
     SwitchTheme,
     FitAllColumns,
+    Print,
+    Preview,
 };
 
 /// Where the keys go.

@@ -107,12 +107,20 @@ TEST(BadInput, AFolderForPicturesThatCannotBeMadeEndsWithCode2) {
     EXPECT_TRUE(isOneLine(run.errors)) << run.errors;
 }
 
-TEST(BadInput, HelpEndsWithCode0AndPrintingWithCode3) {
+TEST(BadInput, HelpEndsWithCode0) {
     const DeskRun help = runDesk({L"--help"});
     EXPECT_EQ(help.exitCode, 0);
     EXPECT_NE(help.output.find("--instruments"), std::string::npos);
     EXPECT_EQ(help.errors, "");
-    const DeskRun print = runDesk({L"--print", L"PDF"});
-    EXPECT_EQ(print.exitCode, 3);
-    EXPECT_TRUE(isOneLine(print.errors)) << print.errors;
+}
+
+TEST(BadInput, APrinterThatIsNotThereEndsWithCode3AndNothingWritten) {
+    const TemporaryFolder folder;
+    const auto pictures = folder.file(L"out");
+    const DeskRun run = runDesk({L"--print", L"Żadna drukarka", L"--shots", pictures.wstring()});
+    EXPECT_EQ(run.exitCode, 3);
+    EXPECT_TRUE(isOneLine(run.errors)) << run.errors;
+    EXPECT_TRUE(run.errors.starts_with("--print: ")) << run.errors;
+    EXPECT_EQ(run.output, "");
+    EXPECT_FALSE(std::filesystem::exists(pictures));
 }

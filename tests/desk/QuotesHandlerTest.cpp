@@ -1,5 +1,6 @@
 #include "QuotesHandler.h"
 
+#include <OrtinControls/PrintInfoEx.h>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -183,6 +184,21 @@ TEST_F(QuotesInTable, AnUnknownRangeHasNoTip) {
     EXPECT_STREQ(text.GetString(), L"5,00 – 20,00");
     CRect unknown = cell(2, Range);
     EXPECT_EQ(m_handler.GetToolTip(unknown, text), -1);
+}
+
+TEST_F(QuotesInTable, APrintOfTheSelectionReachesFromItsFirstRowToItsLastWhereverTheCaretStands) {
+    PrintDialogContext context;
+    PrintInfoEx info(&context);
+    m_handler.OnItemClick(1, CPoint(1, 1), false, 0);
+    m_table.OnPreparePrinting(&info);
+    EXPECT_EQ(info.GetFlags() & PrintOptionSelection, 0) << "one cell";
+    m_handler.selectAllRows();
+    m_table.OnPreparePrinting(&info);
+    EXPECT_NE(info.GetFlags() & PrintOptionSelection, 0);
+    ASSERT_TRUE(m_handler.rowsOfSelection());
+    EXPECT_EQ(*m_handler.rowsOfSelection(), (RowRange{0, 3}));
+    EXPECT_EQ(m_handler.GetSelectedItem(), 1) << "outside of printing it is the caret";
+    EXPECT_EQ(m_handler.GetSelectedItemStart(), 1);
 }
 
 TEST(DeskStatusLine, ANewTextRepaintsItsOwnFieldAlone) {

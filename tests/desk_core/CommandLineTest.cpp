@@ -69,8 +69,24 @@ TEST(CommandLine, RefusesWhatItDoesNotKnowWithCode2) {
     }
 }
 
-TEST(CommandLine, SaysThatPrintingAndCandlesAreNotOfferedWithCode3) {
-    EXPECT_EQ(refused({L"--print", L"PDF"}).exitCode, NotOfferedExitCode);
+TEST(CommandLine, PrintingGoesAloneAndWithPictures) {
+    EXPECT_EQ(accepted({L"--print", L"Drukarka w biurze"}).print, L"Drukarka w biurze");
+    const DeskOptions both = accepted({L"--shots", L"out", L"--print", L"PDF", L"--scene", L"print-status"});
+    EXPECT_EQ(both.print, L"PDF");
+    EXPECT_EQ(both.scene, L"print-status");
+    EXPECT_EQ(refused({L"--print"}).exitCode, BadInputExitCode);
+}
+
+TEST(CommandLine, ASceneOfPrintingNeedsAPrinter) {
+    for (const std::wstring& scene : sceneNames())
+        EXPECT_EQ(refused({L"--shots", L"out", L"--scene", scene}).exitCode,
+                  needsPrinter(scene) ? BadInputExitCode : 0);
+    EXPECT_TRUE(needsPrinter(L"preview-white"));
+    EXPECT_TRUE(needsPrinter(L"print-status"));
+    EXPECT_FALSE(needsPrinter(L"table-white"));
+}
+
+TEST(CommandLine, SaysThatCandlesAreNotOfferedWithCode3) {
     EXPECT_EQ(refused({L"--candles", L"a.csv"}).exitCode, NotOfferedExitCode);
 }
 
@@ -79,7 +95,7 @@ TEST(CommandLine, HelpNamesEverySceneAndOption) {
     for (const std::wstring& scene : sceneNames())
         EXPECT_NE(help.find(scene), std::wstring::npos);
     for (const wchar_t* option :
-         {L"--instruments", L"--theme", L"--ticks", L"--settings", L"--shots", L"--scene", L"--help"})
+         {L"--instruments", L"--theme", L"--ticks", L"--settings", L"--print", L"--shots", L"--scene", L"--help"})
         EXPECT_NE(help.find(option), std::wstring::npos);
     EXPECT_TRUE(accepted({L"--help"}).help);
 }

@@ -39,6 +39,14 @@ TEST(Commands, SearchingAndSwitchingGoesFromAnywhere) {
     EXPECT_EQ(commandOf({Enter, false, false, KeyPlace::Rows}), std::nullopt);
 }
 
+TEST(Commands, PrintingGoesFromAnywhere) {
+    for (const KeyPlace place : {KeyPlace::Rows, KeyPlace::FindBox, KeyPlace::Elsewhere}) {
+        EXPECT_EQ(commandOf({'P', Ctrl, false, place}), Command::Print);
+        EXPECT_EQ(commandOf({'P', Ctrl, Shift, place}), Command::Preview);
+        EXPECT_EQ(commandOf({'P', false, false, place}), std::nullopt);
+    }
+}
+
 TEST(Commands, ShowTheKeysThatTheyHave) {
     EXPECT_STREQ(keysOf(Command::CopyColumn), L"Ctrl+Shift+C");
     EXPECT_STREQ(keysOf(Command::Find), L"Ctrl+F");

@@ -107,6 +107,10 @@ machine_without
 on_machine "$root/run.sh" --shots ''
 expect "a folder without a name ends in one clear line" 2 "error: --shots needs a folder" 1
 
+machine_without
+on_machine "$root/run.sh" --print ''
+expect "a printer without a name ends in one clear line" 2 "error: --print needs the name of a printer" 1
+
 machine_without sudo
 pretend locale 'echo C'
 pretend id 'echo 1000'

@@ -1,0 +1,127 @@
+#include <OrtinFoundation/StringTools.h>
+
+#include "../printing/PrinterOutput.h"
+#include "DeskProcess.h"
+#include "PrintedInstruments.h"
+#include "support/Pump.h"
+#include "support/RealInput.h"
+
+namespace {
+
+const std::wstring Title = L"Notowania";
+constexpr int FromId = 101;
+constexpr int ToId = 102;
+constexpr int FirstPartId = 110;
+
+class PrintByKeys : public DeskOnScreen {
+protected:
+    PrintByKeys() {
+        std::filesystem::remove(output.pdfOf(Title));
+        std::filesystem::remove(output.pdfOf(Title).replace_extension(L".txt"));
+    }
+
+    /// The dialog with this title as soon as it can be typed into.
+    HWND dialog(const wchar_t* title) const {
+        HWND found = nullptr;
+        EXPECT_TRUE(eventually([&] {
+            found = ::FindWindowW(nullptr, title);
+            return found && ::IsWindowVisible(found) && ::GetForegroundWindow() == found;
+        })) << "no dialog";
+        return found;
+    }
+    static bool isOpen(const wchar_t* title) { return ::FindWindowW(nullptr, title) != nullptr; }
+    /// Types a page into the field that "od" and "do" name.
+    void typePage(WORD mnemonic, const wchar_t* page) const {
+        support::chord({VK_MENU, mnemonic});
+        support::typeText(page);
+    }
+    /// The numbers of the printed pages in their order.
+    std::string printedPages() const {
+        std::string numbers;
+        for (const std::wstring& page : output.pagesOf(Title)) {
+            const std::size_t at = page.find(L"Strona ");
+            numbers += (numbers.empty() ? "" : " ") +
+                       (at == std::wstring::npos ? "?" : std::to_string(std::stoi(page.substr(at + 7))));
+        }
+        return numbers;
+    }
+
+    PrinterOutput output;
+    PrintedInstruments printed;
+};
+
+} // namespace
+
+TEST_F(PrintByKeys, ARangeThatRunsBackwardsIsPrintedBackwards) {
+    start(printed.arguments);
+    support::chord({VK_CONTROL, 'P'});
+    dialog(L"Drukuj");
+    typePage('O', L"4");
+    typePage('D', L"2");
+    support::typeKey(VK_RETURN);
+    EXPECT_EQ(printedPages(), "4 3 2");
+    EXPECT_TRUE(eventually([&] { return !isOpen(L"Drukuj") && ::IsWindowEnabled(desk()); }));
+}
+
+TEST_F(PrintByKeys, ABadRangeKeepsTheDialogAndWhatWasTyped) {
+    start(printed.arguments);
+    support::chord({VK_CONTROL, 'P'});
+    const HWND dialogWindow = dialog(L"Drukuj");
+    typePage('O', L"2");
+    typePage('D', L"999");
+    support::typeKey(VK_RETURN);
+    settle();
+    ASSERT_TRUE(isOpen(L"Drukuj"));
+    EXPECT_EQ(textOf(::GetDlgItem(dialogWindow, FromId)), L"2");
+    EXPECT_EQ(textOf(::GetDlgItem(dialogWindow, ToId)), L"999");
+    EXPECT_EQ(::SendDlgItemMessageW(dialogWindow, FirstPartId + 1, BM_GETCHECK, 0, 0), BST_CHECKED);
+    // The wrong field has the focus with its text selected: what is typed replaces it.
+    support::typeText(L"3");
+    support::typeKey(VK_RETURN);
+    EXPECT_EQ(printedPages(), "2 3");
+}
+
+TEST_F(PrintByKeys, EscapePrintsNothingAndGivesTheFocusBackToTheRows) {
+    start();
+    support::chord({VK_CONTROL, 'P'});
+    dialog(L"Drukuj");
+    support::typeKey(VK_ESCAPE);
+    EXPECT_TRUE(eventually([&] { return !isOpen(L"Drukuj"); }));
+    EXPECT_EQ(copiedSymbols(), "S00");
+    EXPECT_FALSE(output.has(Title));
+}
+
+TEST_F(PrintByKeys, TheVisibleAreaAndTheSelectionAreOffered) {
+    start();
+    support::chord({VK_CONTROL, 'A'});
+    support::chord({VK_CONTROL, 'P'});
+    const HWND dialogWindow = dialog(L"Drukuj");
+    EXPECT_TRUE(::IsWindowEnabled(::GetDlgItem(dialogWindow, FirstPartId + 2)));
+    EXPECT_EQ(textOf(::GetDlgItem(dialogWindow, FirstPartId + 3)), L"Widoczny obszar");
+    support::chord({VK_MENU, 'Z'});
+    support::typeKey(VK_RETURN);
+    const std::vector<std::wstring> pages = output.pagesOf(Title);
+    EXPECT_NE(pages.front().find(L"zaznaczone wiersze"), std::wstring::npos);
+    EXPECT_NE(pages.front().find(L"S00"), std::wstring::npos);
+    EXPECT_NE(pages.back().find(L"S59"), std::wstring::npos);
+}
+
+TEST_F(PrintByKeys, ASelectionOfOneCellIsNotOffered) {
+    start();
+    support::chord({VK_CONTROL, 'P'});
+    EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(dialog(L"Drukuj"), FirstPartId + 2)));
+    support::typeKey(VK_ESCAPE);
+}
+
+TEST_F(PrintByKeys, ThePreviewIsPrintedWithItsRange) {
+    start(printed.arguments);
+    support::chord({VK_CONTROL, VK_SHIFT, 'P'});
+    dialog(L"Podgląd wydruku");
+    typePage('O', L"3");
+    typePage('D', L"2");
+    support::typeKey(VK_RETURN);
+    support::chord({VK_MENU, 'R'});
+    dialog(L"Drukuj");
+    support::typeKey(VK_RETURN);
+    EXPECT_EQ(printedPages(), "3 2");
+}
