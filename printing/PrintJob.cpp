@@ -24,15 +24,6 @@ HWND mainWindowOfThread() {
 
 } // namespace
 
-LentPrinterDC::LentPrinterDC(HDC printer) {
-    Attach(printer);
-    m_bPrinting = TRUE;
-}
-
-LentPrinterDC::~LentPrinterDC() {
-    Detach();
-}
-
 PrintStrategy::Job::Job(std::shared_ptr<PrintInfoEx> info, IPrintable& printable)
     : m_info(std::move(info)),
       m_printable(printable),

@@ -7,12 +7,7 @@
 #include <OrtinControls/PrintStrategy.h>
 #include <XTToolkitPro.h>
 
-/// The printer's context for the length of a job: lent by the dialog's context, and given back whatever happens.
-class LentPrinterDC : public CDC {
-public:
-    explicit LentPrinterDC(HDC printer);
-    ~LentPrinterDC() override;
-};
+#include "LentPrinterDC.h"
 
 /// One call of `PrintStrategy::PrintObject`: what lives for its length, and the steps in their order.
 class PrintStrategy::Job {

@@ -92,16 +92,20 @@ std::shared_ptr<CBitmap> PrintPreviewWindow::SetupPageBitmap(int page, CDC* dc, 
         return known->second;
     }
     auto bitmap = std::make_shared<CBitmap>();
-    if (m_pageRect.IsRectEmpty() || !bitmap->CreateCompatibleBitmap(dc, m_pageRect.Width(), m_pageRect.Height()) ||
-        memoryDC->SelectObject(bitmap.get()) == nullptr) {
+    if (m_pageRect.IsRectEmpty() || !bitmap->CreateCompatibleBitmap(dc, m_pageRect.Width(), m_pageRect.Height())) {
         return nullptr;
     }
-    DrawPageScene(memoryDC, m_pageRect);
     const unsigned int update = m_updates;
     {
+        // Also of the selection: a bitmap that is still selected when a printable throws could not be deleted.
         const SavedState state(*memoryDC);
+        if (memoryDC->SelectObject(bitmap.get()) == nullptr) {
+            return nullptr;
+        }
+        DrawPageScene(memoryDC, m_pageRect);
         m_printable->OnPrint(memoryDC, m_printInfo);
     }
+    memoryDC->SelectObject(bitmap.get());
     if (m_updates == update) {
         m_pageBitmaps[page] = bitmap;
     }

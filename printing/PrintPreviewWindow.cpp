@@ -9,6 +9,7 @@
 
 #include "../graphics/ScopedFlag.h"
 #include "../module/ModuleRecord.h"
+#include "LentPrinterDC.h"
 #include "PreviewLayout.h"
 
 namespace {
@@ -29,15 +30,6 @@ constexpr int kWheelUnits = 4; // of the bar, or of a tenth of the scale, for a 
 CRect toRect(const PreviewLayout::Box& box) {
     return CRect(box.left, box.top, box.right, box.bottom);
 }
-
-/// A context of somebody else as an object, for the length of a scope.
-class BorrowedDC : public CDC {
-public:
-    explicit BorrowedDC(HDC dc) { Attach(dc); }
-    BorrowedDC(const BorrowedDC&) = delete;
-    BorrowedDC& operator=(const BorrowedDC&) = delete;
-    ~BorrowedDC() override { Detach(); }
-};
 
 } // namespace
 
@@ -116,8 +108,7 @@ void PrintPreviewWindow::Update(HDC printerDC) {
     ++m_updates;
     m_pageBitmaps.clear();
     {
-        BorrowedDC dc(printerDC);
-        dc.m_bPrinting = TRUE;
+        LentPrinterDC dc(printerDC);
         m_printable->OnBeginPrinting(&dc, m_printInfo);
         m_pageRect.SetRect(0, 0, dc.GetDeviceCaps(HORZRES), dc.GetDeviceCaps(VERTRES));
         m_previewRect = m_pageRect;
@@ -183,6 +174,7 @@ void PrintPreviewWindow::ScaleToAvailableArea() {
     const int client = CXTPClientRect(this).Width();
     const int available = client - 2 * m_leftMargin;
     if (available >= m_pageRect.Width()) {
+        // Meant: the margin of the page at its own size, whatever the scale, which stays.
         m_leftMargin = (client - m_pageRect.Width()) / 2;
         Invalidate(TRUE);
     } else {

@@ -65,6 +65,7 @@ class ReachablePreview : public PrintPreviewWindow {
 public:
     using PrintPreviewWindow::CalculateTotalHeight;
     using PrintPreviewWindow::ChangePreviewAreaScale;
+    using PrintPreviewWindow::Draw;
     using PrintPreviewWindow::FindVisiblePages;
     using PrintPreviewWindow::UpdateHorizontalScroll;
     using PrintPreviewWindow::UpdateVerticalScroll;

@@ -36,6 +36,31 @@ private:
                                  notedBitmap};
 };
 
+bool S_deletedWhileSelected;
+BOOL(WINAPI* S_deleteObject)(HGDIOBJ);
+
+BOOL WINAPI watchedDelete(HGDIOBJ object) {
+    if (::GetObjectType(object) == OBJ_BITMAP) {
+        // A bitmap can be selected into one context only.
+        const HDC other = ::CreateCompatibleDC(nullptr);
+        S_deletedWhileSelected = ::SelectObject(other, object) == nullptr || S_deletedWhileSelected;
+        ::DeleteDC(other);
+    }
+    return S_deleteObject(object);
+}
+
+/// Sees the bitmaps that the framework deletes.
+class WatchedBitmaps {
+public:
+    WatchedBitmaps() {
+        S_deletedWhileSelected = false;
+        S_deleteObject = m_patch.original<BOOL WINAPI(HGDIOBJ)>();
+    }
+
+private:
+    support::ImportPatch m_patch{::GetModuleHandleW(L"OrtinMfc.dll"), "gdi32.dll", "DeleteObject", watchedDelete};
+};
+
 std::size_t residentBytes() {
     PROCESS_MEMORY_COUNTERS counters{};
     ::K32GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof counters);
@@ -103,6 +128,27 @@ TEST_F(PreviewHost, MayThrowWhileItBegins) {
     document.onBegin = nullptr;
     update();
     EXPECT_EQ("1 2 ", document.takeDrawn());
+}
+
+TEST_F(PreviewHost, MayThrowWhileItDraws) {
+    preview.Update(*device.dc());
+    CClientDC dc(&preview);
+    const std::size_t before = support::gdiHandleCount();
+    document.onPrint = [](CDC*, PrintInfo* state) {
+        if (state->CurrentPage() == 2) {
+            throw std::runtime_error("no picture");
+        }
+    };
+    {
+        const WatchedBitmaps watched;
+        EXPECT_THROW(preview.Draw(&dc), std::runtime_error);
+        EXPECT_FALSE(S_deletedWhileSelected) << "the system would keep it";
+    }
+    EXPECT_EQ(before + 1, support::gdiHandleCount()) << "the first page";
+    document.onPrint = nullptr;
+    document.drawn.clear();
+    pixels();
+    EXPECT_EQ("2 ", document.takeDrawn()) << "what failed is drawn anew";
 }
 
 TEST_F(PreviewHost, WithoutMemoryForAPageTriesAgainAtTheNextPaint) {
