@@ -78,6 +78,38 @@ Pagination::VisiblePages slowOfVisibleRows(const Rows& rows, int pageHeight, int
 
 } // namespace
 
+TEST(Pagination, PutsEachRowOnOnePageThatIsTooLongByItsFirstAndLastRowAtMost) {
+    std::mt19937 random(2027);
+    const auto number = [&](int least, int most) { return std::uniform_int_distribution<int>(least, most)(random); };
+    for (int one = 0; one < kCases; ++one) {
+        Rows rows;
+        for (int row = number(1, 24); row > 0; --row) {
+            rows.emplace_back(row, number(0, 40));
+        }
+        const int pageHeight = number(-5, 120);
+        const int last = number(0, static_cast<int>(rows.size()) - 1);
+        const int first = number(0, last);
+        const std::vector<int> firstRows = Pagination::byRows(rows, pageHeight, {first, last});
+        std::vector<int> printed;
+        for (std::size_t page = 0; page < firstRows.size(); ++page) {
+            const int lastOfPage = page + 1 < firstRows.size() ? firstRows[page + 1] - 1 : last;
+            int inner = 0;
+            for (int row = firstRows[page]; row <= lastOfPage; ++row) {
+                printed.push_back(row);
+                inner += row > firstRows[page] && row < lastOfPage ? heightOf(rows, row) : 0;
+            }
+            ASSERT_TRUE(inner < pageHeight || lastOfPage - firstRows[page] <= 2) << "case " << one;
+        }
+        std::vector<int> expected;
+        const bool beginsEarly = firstRows.size() > 1 && firstRows[1] < first;
+        for (int row = beginsEarly ? first - 1 : first; row <= last; ++row) {
+            expected.push_back(row);
+        }
+        ASSERT_EQ(expected, printed) << "case " << one;
+        ASSERT_EQ(first < last && heightOf(rows, first) >= pageHeight, beginsEarly) << "case " << one;
+    }
+}
+
 TEST(Pagination, AgreesWithASlowReferenceOverRandomTables) {
     std::mt19937 random(2026);
     const auto number = [&](int least, int most) { return std::uniform_int_distribution<int>(least, most)(random); };

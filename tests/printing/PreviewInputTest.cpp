@@ -42,6 +42,17 @@ TEST_F(PreviewInput, TheWheelScrollsByFourUnits) {
     EXPECT_EQ(1550 + 20, preview.CalculateTotalHeight());
 }
 
+TEST_F(PreviewInput, TheWheelCountsWholeNotches) {
+    const auto afterTurn = [this](int delta) {
+        preview.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, delta));
+        return position();
+    };
+    EXPECT_EQ(0, afterTurn(-119));
+    EXPECT_EQ(4, afterTurn(-239));
+    EXPECT_EQ(4, afterTurn(119));
+    EXPECT_EQ(0, afterTurn(120));
+}
+
 TEST_F(PreviewInput, TheWheelOnAnEmptyBarMovesNothing) {
     document.pages = 1;
     update();

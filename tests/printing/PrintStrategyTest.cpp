@@ -415,6 +415,9 @@ TEST_P(PrintStrategyThrowingPrintable, LeavesTheJobAsItIs) {
     EXPECT_EQ(nullptr, statusWindow());
     EXPECT_NE(0U, ::GetObjectType(printer.dc())) << "the context is its owner's";
     EXPECT_EQ(1, printer.info.use_count());
+    if (spooler.abortProcedure != nullptr) { // set after the beginning
+        EXPECT_EQ(GetParam() != Place::End, isRegistered());
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(In, PrintStrategyThrowingPrintable,
