@@ -15,8 +15,9 @@ public:
     void add(int row, int height) {
         m_filled += height;
         if (m_filled >= m_pageHeight) {
-            // The break is meant to fall one row early, and yet only this row counts for the new page. So rows repeat
-            // where each fills a page, and a first row that does so breaks before itself, at -1 for row 0.
+            // The break is meant to fall one row early, and yet only this row counts for the new page. So the first
+            // page has no rows where its first row fills it, alone, with a break at -1 for row 0, or with the second
+            // one.
             m_firstRows.push_back(row - 1);
             m_filled = height;
         }

@@ -33,7 +33,9 @@ public:
     virtual void OnDrawFinished(CDC& dc);
     /// Draws a row into `rect`: full client width, y relative to the view. Gives the height that the row needs.
     virtual int DrawItem(CDC& dc, int row, const CRect& rect) = 0;
-    /// Draws the `rows` of a printed page. False lets the table draw them itself through `DrawItem`.
+    /// Draws the rows `firstRow` to `lastRow` of a printed page into `rect`, the sheet within the margins in the
+    /// logical units of `dc`. `rows` are all rows of the table, data and height: the two ends may lie outside of them,
+    /// and the last may lie before the first. False lets the table draw the rows itself through `DrawItem`.
     virtual bool DrawPrintRequestedItems(int firstRow, int lastRow, const CRect& rect, const PrintInfo& printInfo,
                                          const std::vector<std::pair<unsigned __int64, int>>& rows, CDC& dc);
     virtual void SetTableView(ITableView* view) = 0;

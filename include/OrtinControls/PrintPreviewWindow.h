@@ -18,8 +18,9 @@ class PrintInfoEx;
 ///
 /// `Update` lets the printable divide its document; a page is drawn once, by `OnPrint` without `OnPrepareDC`, when it
 /// first comes into view, and kept as a bitmap of the printer's pixels: 4 bytes for each, whatever the scale. A page of
-/// A4 costs 3.4 MB at 96 dots in an inch and 130 MB at 600, so that a host that does not want to pay for it gives a
-/// context of a coarser device.
+/// A4 costs 3.6 MB at 96 dots in an inch and 139 MB at 600, so that a host that does not want to pay for it gives a
+/// context of a coarser device. A unit of the print area is a pixel of the bitmap: what the print area has beyond the
+/// pixels of the device is not shown.
 ///
 /// Ctrl with the wheel and two buttons in the lower middle change the scale. The buttons are hidden, from five seconds
 /// after `Create` on, while the mouse is elsewhere. The client area is filled with colour 35 of
@@ -40,7 +41,8 @@ public:
     /// Divides the document for the device and forgets the pages that were drawn. The context stays the caller's.
     /// Without a window, or before `Init`, nothing happens.
     void Update(HDC printerDC);
-    /// Makes the page as wide as the client area without its margins, but never larger than its own size.
+    /// Makes a page that is wider at its own size than the client area without the margins exactly as wide as that. Any
+    /// other page keeps its scale.
     void ScaleToAvailableArea();
 
 protected:
