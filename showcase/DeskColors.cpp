@@ -137,6 +137,10 @@ COLORREF fallen() {
     return color(RoleFallen);
 }
 
+COLORREF complaint() {
+    return blend(color(RoleFallen), color(RoleText), 0.4);
+}
+
 COLORREF blend(COLORREF base, COLORREF over, double share) {
     const auto mixed = [share](int from, int to) { return static_cast<BYTE>(std::lround(from + (to - from) * share)); };
     return RGB(mixed(GetRValue(base), GetRValue(over)), mixed(GetGValue(base), GetGValue(over)),

@@ -34,6 +34,8 @@ COLORREF previewGround();
 COLORREF previewShadow();
 COLORREF risen();
 COLORREF fallen();
+/// A sentence about what the user typed wrong.
+COLORREF complaint();
 
 /// `share` 0 is `base`, 1 is `over`.
 COLORREF blend(COLORREF base, COLORREF over, double share);

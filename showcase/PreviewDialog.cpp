@@ -135,7 +135,7 @@ void PreviewDialog::drawBackground(CDC& dc) {
     const CXTPClientRect client(this);
     CRect complaint(scaled(Margin), scaled(2 * Margin) + rowHeight() - scaled(Gap), client.right, 0);
     complaint.bottom = complaint.top + rowHeight();
-    dc.SetTextColor(Colors::fallen());
+    dc.SetTextColor(Colors::complaint());
     dc.DrawText(m_complaint.c_str(), -1, &complaint, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
 }
 

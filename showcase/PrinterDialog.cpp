@@ -150,7 +150,7 @@ void PrinterDialog::drawBackground(CDC& dc) {
     ScreenToClient(&fit);
     CRect complaint(scaled(Margin), fit.bottom + scaled(Gap), client.right - scaled(Margin), client.bottom);
     complaint.bottom = complaint.top + rowHeight();
-    dc.SetTextColor(Colors::fallen());
+    dc.SetTextColor(Colors::complaint());
     dc.DrawText(m_complaint.c_str(), -1, &complaint, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
 }
 

@@ -24,7 +24,7 @@ public:
 
 private:
     bool writeScene(const std::wstring& name);
-    bool writePicture(CWnd& window, const std::wstring& name);
+    bool writePicture(CWnd& shown, const std::wstring& name);
     bool writePreview(const std::wstring& name);
     bool writePrinterDialog(const std::wstring& name);
     bool writePrintStatus(const std::wstring& name);

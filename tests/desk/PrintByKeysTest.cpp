@@ -12,6 +12,8 @@ const std::wstring Title = L"Notowania";
 constexpr int FromId = 101;
 constexpr int ToId = 102;
 constexpr int FirstPartId = 110;
+constexpr int PagesId = 100;
+constexpr int PreviewFromId = 104;
 
 class PrintByKeys : public DeskOnScreen {
 protected:
@@ -124,4 +126,34 @@ TEST_F(PrintByKeys, ThePreviewIsPrintedWithItsRange) {
     dialog(L"Drukuj");
     support::typeKey(VK_RETURN);
     EXPECT_EQ(printedPages(), "3 2");
+}
+
+TEST_F(PrintByKeys, CtrlAndTheWheelChangeTheScaleOfThePreview) {
+    start(printed.arguments);
+    support::chord({VK_CONTROL, VK_SHIFT, 'P'});
+    const HWND pages = ::GetDlgItem(dialog(L"Podgląd wydruku"), PagesId);
+    settle();
+    const support::Pixels before = pixelsOf(pages);
+    {
+        const support::HeldKey control(VK_CONTROL);
+        support::turnWheel(onScreen(pages, scaled(200), scaled(200)), WHEEL_DELTA);
+    }
+    EXPECT_TRUE(eventually([&] { return pixelsOf(pages) != before; }));
+    support::typeKey(VK_ESCAPE);
+    EXPECT_TRUE(eventually([&] { return !isOpen(L"Podgląd wydruku") && ::IsWindowEnabled(desk()); }));
+}
+
+TEST_F(PrintByKeys, ABadRangeInThePreviewPrintsNothingAndKeepsWhatWasTyped) {
+    start(printed.arguments);
+    support::chord({VK_CONTROL, VK_SHIFT, 'P'});
+    const HWND dialogWindow = dialog(L"Podgląd wydruku");
+    typePage('O', L"0");
+    support::typeKey(VK_RETURN);
+    settle();
+    EXPECT_TRUE(isOpen(L"Podgląd wydruku"));
+    support::chord({VK_MENU, 'R'});
+    settle();
+    EXPECT_TRUE(isOpen(L"Podgląd wydruku"));
+    EXPECT_FALSE(isOpen(L"Drukuj"));
+    EXPECT_EQ(textOf(::GetDlgItem(dialogWindow, PreviewFromId)), L"0");
 }
