@@ -4,12 +4,15 @@
 
 #include <cstdint>
 #include <optional>
+#include <stdexcept>
 
 #include "support/ImportPatch.h"
 
 namespace {
 
 constexpr int kManyRows = 1'000'000;
+constexpr int kRowsOfAPage = 60;
+constexpr int kMargin = 10;
 constexpr int kPages = 40;
 constexpr CSize kSheet(794, 1123);
 constexpr CSize kView(900, 760);
@@ -48,6 +51,49 @@ void divide(bench::Results& results) {
                                                     sink = sum;
                                                 }},
                      .goals = {.toLimit = 3}});
+    table.DestroyWindow();
+}
+
+void page(bench::Results& results) {
+    const support::ImportPatch caps(::GetModuleHandleW(L"OrtinControls.dll"), "gdi32.dll", "GetDeviceCaps",
+                                    capsOfTheSheet);
+    scene::Font font;
+    scene::Host host(font.handle());
+    support::ScopedTopLevelWindow window(kView);
+    TableCtrlPrintable table;
+    table.Create(1, &window, false);
+    table.SetTableHandler(&host);
+    table.MoveWindow(0, 0, scene::kWidth, scene::kHeight);
+    for (int row = 1; row <= kRowsOfAPage; ++row) {
+        table.AddItem(static_cast<unsigned __int64>(row));
+    }
+    PrintDialogContext context;
+    PrintInfoEx info(&context);
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    CBitmap sheet;
+    CClientDC screen(&window);
+    sheet.CreateCompatibleBitmap(&screen, kSheet.cx, kSheet.cy);
+    const CXTPBitmapDC selected(&dc, &sheet);
+    table.OnBeginPrinting(&dc, &info);
+    if (info.TotalPageCount() != 1) {
+        throw std::logic_error("the rows are to fill one page");
+    }
+    info.SetCurrentPage(1);
+    const CRect area = info.PrintAreaInObjectUnits();
+    results.measure({.what = "a printed page of 60 rows (limit: its text calls)",
+                     .ours = {.run = [&] { table.OnPrint(&dc, &info); }},
+                     .limit = bench::Runner{.run =
+                                                [&] {
+                                                    ::SelectObject(dc, font.handle());
+                                                    for (int row = 0; row < kRowsOfAPage; ++row) {
+                                                        const int top = area.top + kMargin + row * scene::kRowHeight;
+                                                        scene::drawRow(dc, static_cast<std::uint64_t>(row),
+                                                                       CRect(area.left + kMargin, top, area.right,
+                                                                             top + scene::kRowHeight));
+                                                    }
+                                                }},
+                     .goals = {.toLimit = 1.3}});
     table.DestroyWindow();
 }
 
@@ -144,6 +190,7 @@ void scroll(bench::Results& results) {
 
 void measurePrinting(bench::Results& results) {
     divide(results);
+    page(results);
     scroll(results);
 }
 

@@ -149,7 +149,7 @@ bool PrintStrategy::Job::wasPageForgiven() const {
 }
 
 bool PrintStrategy::Job::isCancelled() const {
-    return AbortPrintProcess(m_printer, 0) == 0;
+    return _XTPAbortProc(m_printer, 0) == 0 || IsRegistered(m_printer) == nullptr || m_printable.IsPrintAborted();
 }
 
 void PrintStrategy::Job::abortDocument() {

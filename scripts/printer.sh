@@ -108,7 +108,12 @@ status=0
 "$@" || status=$?
 # What COMMAND has handed over is printed to its end.
 waited=0
-while [ -n "$(lpstat -o 2>/dev/null)" ] && [ $((waited += 1)) -le 600 ]; do
+while [ -n "$(lpstat -o 2>/dev/null)" ]; do
+    if [ $((waited += 1)) -gt 600 ]; then
+        echo "error: after a minute the spooler has not printed: $(lpstat -o 2>/dev/null)" >&2
+        [ "$status" != 0 ] || status=2
+        break
+    fi
     sleep 0.1
 done
 exit "$status"
