@@ -7,7 +7,6 @@
 #include "support/TopLevelWindow.h"
 
 using VectorCanvas::VectorCanvasCtrl;
-using VectorCanvas::VectorPainterGdi;
 
 namespace {
 

@@ -164,7 +164,8 @@ void ReferenceBar::doubleClick(int x, int y) {
 }
 
 void ReferenceBar::turnWheel(int delta) {
-    moveBy((end - start) * (delta / 120) * 0.1);
+    const int notches = delta / 120;
+    moveBy((end - start) * notches * 0.1);
 }
 
 std::string ReferenceBar::takeLog() {
