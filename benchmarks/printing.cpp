@@ -22,59 +22,59 @@ int WINAPI capsOfTheSheet(HDC, int index) {
     return index == HORZRES ? kSheet.cx : index == VERTRES ? kSheet.cy : 96;
 }
 
-void divide(bench::Results& results) {
-    scene::Font font;
-    scene::Host host(font.handle());
-    support::ScopedTopLevelWindow window(kView);
-    TableCtrlPrintable table;
-    table.Create(1, &window, false);
-    table.SetTableHandler(&host);
-    table.MoveWindow(0, 0, scene::kWidth, scene::kHeight);
-    std::vector<std::pair<unsigned __int64, int>> rows;
-    for (int row = 1; row <= kManyRows; ++row) {
-        rows.emplace_back(static_cast<unsigned __int64>(row), scene::kRowHeight);
+/// A table in a window, and what a run of it takes.
+struct Printed {
+    explicit Printed(int count) {
+        table.Create(1, &window, false);
+        table.SetTableHandler(&host);
+        table.MoveWindow(0, 0, scene::kWidth, scene::kHeight);
+        for (int row = 1; row <= count; ++row) {
+            rows.emplace_back(static_cast<unsigned __int64>(row), scene::kRowHeight);
+        }
+        table.InsertItems(rows, 0, 0);
+        dc.CreateCompatibleDC(nullptr);
     }
-    table.InsertItems(rows, 0, 0);
+    ~Printed() { table.DestroyWindow(); }
+    Printed(const Printed&) = delete;
+    Printed& operator=(const Printed&) = delete;
+
+    std::vector<std::pair<unsigned __int64, int>> rows;
+    scene::Font font;
+    scene::Host host{font.handle()};
+    support::ScopedTopLevelWindow window{kView};
+    TableCtrlPrintable table;
     PrintDialogContext context;
-    PrintInfoEx info(&context);
+    PrintInfoEx info{&context};
     CDC dc;
-    dc.CreateCompatibleDC(nullptr);
+};
+
+void divide(bench::Results& results) {
+    Printed printed(kManyRows);
     volatile std::int64_t sink = 0;
     results.measure({.what = "pages of 1,000,000 rows (limit: one pass over the heights)",
-                     .ours = {.run = [&] { table.OnBeginPrinting(&dc, &info); }},
+                     .ours = {.run = [&] { printed.table.OnBeginPrinting(&printed.dc, &printed.info); }},
                      .limit = bench::Runner{.run =
                                                 [&] {
                                                     std::int64_t sum = 0;
-                                                    for (const auto& row : rows) {
+                                                    for (const auto& row : printed.rows) {
                                                         sum += row.second;
                                                     }
                                                     sink = sum;
                                                 }},
                      .goals = {.toLimit = 3}});
-    table.DestroyWindow();
 }
 
 void page(bench::Results& results) {
     const support::ImportPatch caps(::GetModuleHandleW(L"OrtinControls.dll"), "gdi32.dll", "GetDeviceCaps",
                                     capsOfTheSheet);
-    scene::Font font;
-    scene::Host host(font.handle());
-    support::ScopedTopLevelWindow window(kView);
-    TableCtrlPrintable table;
-    table.Create(1, &window, false);
-    table.SetTableHandler(&host);
-    table.MoveWindow(0, 0, scene::kWidth, scene::kHeight);
-    for (int row = 1; row <= kRowsOfAPage; ++row) {
-        table.AddItem(static_cast<unsigned __int64>(row));
-    }
-    PrintDialogContext context;
-    PrintInfoEx info(&context);
-    CDC dc;
-    dc.CreateCompatibleDC(nullptr);
+    Printed printed(kRowsOfAPage);
     CBitmap sheet;
-    CClientDC screen(&window);
+    CClientDC screen(&printed.window);
     sheet.CreateCompatibleBitmap(&screen, kSheet.cx, kSheet.cy);
-    const CXTPBitmapDC selected(&dc, &sheet);
+    const CXTPBitmapDC selected(&printed.dc, &sheet);
+    TableCtrlPrintable& table = printed.table;
+    PrintInfoEx& info = printed.info;
+    CDC& dc = printed.dc;
     table.OnBeginPrinting(&dc, &info);
     if (info.TotalPageCount() != 1) {
         throw std::logic_error("the rows are to fill one page");
@@ -85,7 +85,7 @@ void page(bench::Results& results) {
                      .ours = {.run = [&] { table.OnPrint(&dc, &info); }},
                      .limit = bench::Runner{.run =
                                                 [&] {
-                                                    ::SelectObject(dc, font.handle());
+                                                    ::SelectObject(dc, printed.font.handle());
                                                     for (int row = 0; row < kRowsOfAPage; ++row) {
                                                         const int top = area.top + kMargin + row * scene::kRowHeight;
                                                         scene::drawRow(dc, static_cast<std::uint64_t>(row),
@@ -94,7 +94,6 @@ void page(bench::Results& results) {
                                                     }
                                                 }},
                      .goals = {.toLimit = 1.3}});
-    table.DestroyWindow();
 }
 
 /// Pages that cost nothing to draw.

@@ -28,14 +28,16 @@ function(ortin_need_googletest)
     endif()
 endfunction()
 
-# ortin_test(NAME SOURCES a.cpp... LIBRARIES x... [DPI144] [DISPLAY] [PRINTER]): one program and one CTest entry, or two.
+# ortin_test(NAME SOURCES a.cpp... LIBRARIES x... [DPI144] [DISPLAY] [PRINTER|NO_PRINTER]): one program and one CTest
+# entry, or two.
 #   DPI144   the program runs again, as NAME@144 with the label dpi144, where a logical inch has 144 pixels
 #   DISPLAY  the program moves the real mouse, types or needs the focus: it runs alone, so that nobody's window covers
 #            its own
 #   PRINTER  the program prints: a spooler of its own runs with it, and it runs alone, because all programs of a prefix
 #            share one list of printers
+#   NO_PRINTER  the program wants a system that has none: its prefix is its own, and no spooler is found from there
 function(ortin_test name)
-    cmake_parse_arguments(arg "DPI144;DISPLAY;PRINTER" "" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(arg "DPI144;DISPLAY;PRINTER;NO_PRINTER" "" "SOURCES;LIBRARIES" ${ARGN})
     ortin_need_googletest()
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE ortin_warnings ortin_platform_options ${arg_LIBRARIES} gtest gmock)
@@ -55,6 +57,11 @@ function(ortin_test name)
         add_test(NAME ${name} COMMAND ${name})
     endif()
     set_tests_properties(${entries} PROPERTIES TIMEOUT 600)
+    if(arg_NO_PRINTER)
+        set(apart ${CMAKE_BINARY_DIR}/without-printer)
+        set_tests_properties(${entries} PROPERTIES
+            ENVIRONMENT "ORTIN_WINE_FOLDER=${apart}/wine;CUPS_SERVER=${apart}/no-spooler")
+    endif()
     if(arg_DISPLAY OR arg_PRINTER)
         set_tests_properties(${entries} PROPERTIES RUN_SERIAL TRUE)
     endif()

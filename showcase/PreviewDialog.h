@@ -5,15 +5,14 @@
 #include <OrtinControls/PrintInfoEx.h>
 #include <OrtinControls/PrintPreviewWindow.h>
 
-#include "DeskDialog.h"
+#include "PageRangeDialog.h"
 #include "PrintRun.h"
 #include "Printers.h"
-#include "core/PrintRange.h"
 
 namespace Desk {
 
 /// The pages as they would come out of the printer, all or a range of them; from here they can be printed.
-class PreviewDialog : public DeskDialog {
+class PreviewDialog : public PageRangeDialog {
 public:
     /// All outlive the dialog. `leastWidth` is the width of the printable's page in its own units, which are the pixels
     /// of a page of the preview.
@@ -30,7 +29,7 @@ protected:
     void createControls() override;
     CSize firstSize() override;
     void placeControls(CSize client) override;
-    void drawBackground(CDC& dc) override;
+    CRect complaintArea() override;
     BOOL OnInitDialog() override;
     void OnOK() override;
 
@@ -40,7 +39,6 @@ protected:
     afx_msg void OnZoomOut();
     afx_msg void OnFitWidth();
     afx_msg void OnShowRange();
-    afx_msg void OnFieldFocus();
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -57,18 +55,12 @@ private:
     PrintDialogContext m_context;
     PrintInfoEx m_info{&m_context};
     std::optional<PrintRange> m_range;
-    int m_pageCount = 0; ///< of the whole document
-    std::wstring m_complaint;
 
     CStatic m_placeholder; ///< until the pages take its place
     Pages m_pages;
     DeskButton m_zoomOut;
     DeskButton m_zoomIn;
     DeskButton m_fitWidth;
-    CStatic m_fromLabel;
-    CEdit m_from;
-    CStatic m_toLabel;
-    CEdit m_to;
     DeskButton m_show;
     DeskButton m_print;
     DeskButton m_close;

@@ -2,17 +2,13 @@
 
 #include <algorithm>
 
-#include "DeskColors.h"
 #include "PrintRun.h"
-#include "ScopedSelection.h"
 
 namespace Desk {
 
 namespace {
 
 constexpr int PrinterId = 100;
-constexpr int FromId = 101;
-constexpr int ToId = 102;
 constexpr int FitId = 103;
 constexpr int FirstPartId = 110;
 constexpr int LastPartId = 129;
@@ -28,20 +24,16 @@ constexpr int ButtonHeight = 28;
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(PrinterDialog, DeskDialog)
+BEGIN_MESSAGE_MAP(PrinterDialog, PageRangeDialog)
     ON_CBN_SELCHANGE(PrinterId, &PrinterDialog::OnPrinterChosen)
     ON_CONTROL_RANGE(BN_CLICKED, FirstPartId, LastPartId, &PrinterDialog::OnChoice)
     ON_EN_CHANGE(FromId, &PrinterDialog::OnRangeTyped)
     ON_EN_CHANGE(ToId, &PrinterDialog::OnRangeTyped)
-    ON_EN_SETFOCUS(FromId, &PrinterDialog::OnFieldFocus)
-    ON_EN_SETFOCUS(ToId, &PrinterDialog::OnFieldFocus)
-    ON_EN_KILLFOCUS(FromId, &PrinterDialog::OnFieldFocus)
-    ON_EN_KILLFOCUS(ToId, &PrinterDialog::OnFieldFocus)
 END_MESSAGE_MAP()
 
 PrinterDialog::PrinterDialog(DeskFonts& fonts, const std::vector<Printer>& printers, const OfferedPrintInfo& info,
                              PrintDialogContext& context, IPrintable& printable, std::optional<PrintRange> range)
-    : DeskDialog(fonts, L"Drukuj"),
+    : PageRangeDialog(fonts, L"Drukuj"),
       m_printers(printers),
       m_info(info),
       m_context(context),
@@ -64,10 +56,7 @@ void PrinterDialog::createControls() {
     addPart(PrintOptionSelection, 0, L"&Zaznaczenie" + m_selectionText, m_info.offers(PrintOptionSelection));
     for (const OfferedPrintInfo::AddedChoice& added : m_info.added())
         addPart(PrintOptionCustom, added.id, added.text);
-    makeLabel(m_fromLabel, L"&od");
-    makeField(m_from, FromId);
-    makeLabel(m_toLabel, L"&do");
-    makeField(m_to, ToId);
+    makeRange(L"&od");
     m_fit.createIn(this, FitId, L"Dopasuj &kolumny do szerokości strony", DeskChoice::Kind::Check, WS_GROUP, fonts());
     m_fit.choose();
     m_print.createIn(this, IDOK, L"Drukuj", fonts());
@@ -75,9 +64,7 @@ void PrinterDialog::createControls() {
     m_cancel.createIn(this, IDCANCEL, L"Anuluj", fonts());
 
     takePrinter();
-    const PrintRange range = m_firstRange.value_or(PrintRange{1, std::max(m_pages, 1)});
-    m_from.SetWindowText(std::to_wstring(range.from).c_str());
-    m_to.SetWindowText(std::to_wstring(range.to).c_str());
+    showRange(m_firstRange.value_or(PrintRange{1, std::max(m_pageCount, 1)}));
     choosePart(m_firstRange ? PrintOptionPages : PrintOptionAll);
 }
 
@@ -109,18 +96,8 @@ void PrinterDialog::placeControls(CSize client) {
     for (const Part& part : m_parts) {
         const int width = part.option == PrintOptionPages ? part.button->neededWidth() : right - left;
         part.button->MoveWindow(left, top, width, rowHeight());
-        if (part.option == PrintOptionPages) {
-            int x = left + width + scaled(Gap);
-            const auto place = [&](CStatic& label, CEdit& field) {
-                const int labelWidth = fonts().widthOf(L"od") + scaled(Gap);
-                label.MoveWindow(x, top, labelWidth, rowHeight());
-                x += labelWidth;
-                placeField(field, CRect(x, top, x + scaled(FieldWidth), top + rowHeight()));
-                x += scaled(FieldWidth) + scaled(Gap);
-            };
-            place(m_fromLabel, m_from);
-            place(m_toLabel, m_to);
-        }
+        if (part.option == PrintOptionPages)
+            placeRange(left + width + scaled(Gap), top, scaled(FieldWidth));
         top += step;
     }
     m_fit.MoveWindow(left, top, m_fit.neededWidth(), rowHeight());
@@ -130,28 +107,13 @@ void PrinterDialog::placeControls(CSize client) {
                        scaled(ButtonHeight));
 }
 
-void PrinterDialog::drawBackground(CDC& dc) {
-    drawField(dc, m_from);
-    drawField(dc, m_to);
-    const ScopedSelection font(dc, fonts().text());
-    dc.SetBkMode(TRANSPARENT);
-    // How many pages there are stands behind the range, what is wrong over the buttons.
-    CRect area;
-    m_to.GetWindowRect(&area);
-    ScreenToClient(&area);
-    const CXTPClientRect client(this);
-    area.left = area.right + scaled(2 * Gap);
-    area.right = client.right - scaled(Margin);
-    dc.SetTextColor(Colors::mutedText());
-    dc.DrawText((L"z " + std::to_wstring(m_pages)).c_str(), -1, &area, DT_LEFT | DT_VCENTER | DT_SINGLELINE);
-
+/// Over the buttons.
+CRect PrinterDialog::complaintArea() {
     CRect fit;
     m_fit.GetWindowRect(&fit);
     ScreenToClient(&fit);
-    CRect complaint(scaled(Margin), fit.bottom + scaled(Gap), client.right - scaled(Margin), client.bottom);
-    complaint.bottom = complaint.top + rowHeight();
-    dc.SetTextColor(Colors::complaint());
-    dc.DrawText(m_complaint.c_str(), -1, &complaint, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
+    const int top = fit.bottom + scaled(Gap);
+    return CRect(scaled(Margin), top, CXTPClientRect(this).right - scaled(Margin), top + rowHeight());
 }
 
 // Choices
@@ -171,15 +133,10 @@ void PrinterDialog::choosePart(EPrintOption option) {
 bool PrinterDialog::takePrinter() {
     const Printer& printer = m_printers[static_cast<std::size_t>(std::max(m_printer.GetCurSel(), 0))];
     const bool taken = choosePrinter(m_context, printer);
-    m_pages = taken ? countPages(m_printable, m_context) : 0;
+    m_pageCount = taken ? countPages(m_printable, m_context) : 0;
     complain(taken ? std::wstring() : L"Drukarka „" + printer.name + L"” nie odpowiada; wybierz inną.");
     m_print.EnableWindow(taken);
     return taken;
-}
-
-void PrinterDialog::complain(const std::wstring& sentence) {
-    m_complaint = sentence;
-    Invalidate(FALSE);
 }
 
 void PrinterDialog::OnPrinterChosen() {
@@ -193,28 +150,8 @@ void PrinterDialog::OnChoice(UINT) {
 void PrinterDialog::OnRangeTyped() {
     complain({});
     // The first numbers are the dialog's own.
-    if (GetFocus() == &m_from || GetFocus() == &m_to)
+    if (hasFocusInRange())
         choosePart(PrintOptionPages);
-}
-
-void PrinterDialog::OnFieldFocus() {
-    Invalidate(FALSE);
-}
-
-std::optional<PrintRange> PrinterDialog::typedRange() {
-    CString from;
-    CString to;
-    m_from.GetWindowText(from);
-    m_to.GetWindowText(to);
-    const auto read = readPrintRange(from.GetString(), to.GetString(), m_pages);
-    if (const auto* fault = std::get_if<RangeFault>(&read)) {
-        complain(fault->sentence);
-        CEdit& field = fault->end == RangeEnd::From ? m_from : m_to;
-        field.SetFocus();
-        field.SetSel(0, -1);
-        return std::nullopt;
-    }
-    return std::get<PrintRange>(read);
 }
 
 void PrinterDialog::OnOK() {
@@ -231,7 +168,7 @@ void PrinterDialog::OnOK() {
     m_context.PrintOption(part->option);
     m_context.CustomPrintOptionId(part->customId);
     m_context.FitToPageArea(m_fit.isChosen());
-    DeskDialog::OnOK();
+    PageRangeDialog::OnOK();
 }
 
 } // namespace Desk

@@ -7,16 +7,15 @@
 
 #include <OrtinControls/IPrintable.h>
 
-#include "DeskDialog.h"
 #include "OfferedPrintInfo.h"
+#include "PageRangeDialog.h"
 #include "Printers.h"
-#include "core/PrintRange.h"
 
 namespace Desk {
 
 /// Asks for the printer and for what of the document is printed, and writes the answer into the context of the run. It
 /// offers what the printable has enabled and added in the `OfferedPrintInfo`.
-class PrinterDialog : public DeskDialog {
+class PrinterDialog : public PageRangeDialog {
 public:
     /// All outlive the dialog. `printers` is not empty; the default printer is chosen first, and with a `range` its
     /// pages.
@@ -32,13 +31,12 @@ protected:
     void createControls() override;
     CSize firstSize() override;
     void placeControls(CSize client) override;
-    void drawBackground(CDC& dc) override;
+    CRect complaintArea() override;
     void OnOK() override;
 
     afx_msg void OnPrinterChosen();
     afx_msg void OnChoice(UINT id);
     afx_msg void OnRangeTyped();
-    afx_msg void OnFieldFocus();
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -53,8 +51,6 @@ private:
     Part* chosenPart();
     void choosePart(EPrintOption option);
     bool takePrinter();
-    std::optional<PrintRange> typedRange();
-    void complain(const std::wstring& sentence);
     int contentHeight() const;
 
     const std::vector<Printer>& m_printers;
@@ -63,19 +59,13 @@ private:
     IPrintable& m_printable;
     std::optional<PrintRange> m_firstRange;
     std::wstring m_selectionText;
-    int m_pages = 0; ///< of the whole document on the chosen printer
 
     CStatic m_printerLabel;
     DeskCombo m_printer;
     std::vector<Part> m_parts;
-    CStatic m_fromLabel;
-    CEdit m_from;
-    CStatic m_toLabel;
-    CEdit m_to;
     DeskChoice m_fit;
     DeskButton m_print;
     DeskButton m_cancel;
-    std::wstring m_complaint;
 };
 
 } // namespace Desk

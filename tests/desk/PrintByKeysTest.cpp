@@ -9,11 +9,10 @@
 namespace {
 
 const std::wstring Title = L"Notowania";
-constexpr int FromId = 101;
-constexpr int ToId = 102;
+constexpr int FromId = 104;
+constexpr int ToId = 105;
 constexpr int FirstPartId = 110;
 constexpr int PagesId = 100;
-constexpr int PreviewFromId = 104;
 
 class PrintByKeys : public DeskOnScreen {
 protected:
@@ -155,5 +154,5 @@ TEST_F(PrintByKeys, ABadRangeInThePreviewPrintsNothingAndKeepsWhatWasTyped) {
     settle();
     EXPECT_TRUE(isOpen(L"Podgląd wydruku"));
     EXPECT_FALSE(isOpen(L"Drukuj"));
-    EXPECT_EQ(textOf(::GetDlgItem(dialogWindow, PreviewFromId)), L"0");
+    EXPECT_EQ(textOf(::GetDlgItem(dialogWindow, FromId)), L"0");
 }

@@ -1,4 +1,5 @@
 // Printables that misbehave, extreme scales, and what a preview costs.
+#include "NotedBitmaps.h"
 #include "PreviewFixture.h"
 
 #include <stdexcept>
@@ -11,30 +12,6 @@
 namespace {
 
 class PreviewHost : public PreviewFixture {};
-
-CSize S_largest;
-bool S_noMemory;
-HBITMAP(WINAPI* S_createBitmap)(HDC, int, int);
-
-HBITMAP WINAPI notedBitmap(HDC dc, int width, int height) {
-    S_largest =
-        CSize(std::max(S_largest.cx, static_cast<LONG>(width)), std::max(S_largest.cy, static_cast<LONG>(height)));
-    return S_noMemory ? nullptr : S_createBitmap(dc, width, height);
-}
-
-/// Sees the bitmaps that the framework makes.
-class NotedBitmaps {
-public:
-    NotedBitmaps() {
-        S_largest = CSize(0, 0);
-        S_noMemory = false;
-        S_createBitmap = m_patch.original<HBITMAP WINAPI(HDC, int, int)>();
-    }
-
-private:
-    support::ImportPatch m_patch{::GetModuleHandleW(L"OrtinMfc.dll"), "gdi32.dll", "CreateCompatibleBitmap",
-                                 notedBitmap};
-};
 
 bool S_deletedWhileSelected;
 BOOL(WINAPI* S_deleteObject)(HGDIOBJ);
@@ -153,8 +130,8 @@ TEST_F(PreviewHost, MayThrowWhileItDraws) {
 
 TEST_F(PreviewHost, WithoutMemoryForAPageTriesAgainAtTheNextPaint) {
     {
-        const NotedBitmaps noted;
-        S_noMemory = true;
+        NotedBitmaps noted;
+        noted.noMemory = true;
         update();
         EXPECT_EQ("", document.takeDrawn());
     }
@@ -169,8 +146,8 @@ TEST_F(PreviewHost, NoBitmapIsLargerThanThePageAtAnyScale) {
         scale(delta);
         pixels();
     }
-    EXPECT_EQ(200, S_largest.cx);
-    EXPECT_EQ(300, S_largest.cy);
+    EXPECT_EQ(200, noted.largest.cx);
+    EXPECT_EQ(300, noted.largest.cy);
     EXPECT_EQ("1 2 3 ", document.takeDrawn());
 }
 

@@ -1,10 +1,10 @@
 // Hosts that misbehave while their table is printed, the black and white way, and what a job leaves behind.
+#include "NotedBitmaps.h"
 #include "PrintableFixture.h"
 
 #include <stdexcept>
 
 #include "support/Capture.h"
-#include "support/ImportPatch.h"
 #include "support/Resources.h"
 
 namespace {
@@ -26,28 +26,6 @@ protected:
 
     const std::vector<std::string> callbacks{"GetSelectedItemStart", "GetSelectedItem", "GetSelectedPositionStartEnd",
                                              "DrawPrintRequestedItems", "DrawItem"};
-};
-
-int S_bitmaps;
-bool S_noMemory;
-HBITMAP(WINAPI* S_createBitmap)(HDC, int, int);
-
-HBITMAP WINAPI countedBitmap(HDC dc, int width, int height) {
-    ++S_bitmaps;
-    return S_noMemory ? nullptr : S_createBitmap(dc, width, height);
-}
-
-class CountedBitmaps {
-public:
-    CountedBitmaps() {
-        S_bitmaps = 0;
-        S_noMemory = false;
-        S_createBitmap = m_patch.original<HBITMAP WINAPI(HDC, int, int)>();
-    }
-
-private:
-    support::ImportPatch m_patch{::GetModuleHandleW(L"OrtinMfc.dll"), "gdi32.dll", "CreateCompatibleBitmap",
-                                 countedBitmap};
 };
 
 /// What is on the page after a run in black and white.
@@ -178,19 +156,19 @@ TEST_F(BlackWhite, DrawsTheRowsOnThePageItself) {
 
 TEST_F(BlackWhite, KeepsOnePictureForAllPagesOfOneSize) {
     addRows(40);
-    const CountedBitmaps counted;
+    const NotedBitmaps noted;
     print(&dc);
     print(&dc);
-    EXPECT_EQ(1, S_bitmaps);
+    EXPECT_EQ(1, noted.count);
     table.m_marginTop = 20;
     print(&dc);
-    EXPECT_EQ(2, S_bitmaps);
+    EXPECT_EQ(2, noted.count);
 }
 
 TEST_F(BlackWhite, WithoutMemoryForThePicturePrintsTheRows) {
     addRows(3);
-    const CountedBitmaps counted;
-    S_noMemory = true;
+    NotedBitmaps noted;
+    noted.noMemory = true;
     print(&dc);
     EXPECT_EQ(RecordingHandler::colourOf(1), paper.pixels().onlyColour({10, 10, 410, 30}));
 }
@@ -198,10 +176,10 @@ TEST_F(BlackWhite, WithoutMemoryForThePicturePrintsTheRows) {
 TEST_F(BlackWhite, OfASheetThatTheMarginsHaveEatenPrintsTheRows) {
     addRows(3);
     table.m_marginTop = 200;
-    const CountedBitmaps counted;
+    const NotedBitmaps noted;
     begin(&dc);
     EXPECT_NE("", printPage(&dc, info.TotalPageCount()));
-    EXPECT_EQ(0, S_bitmaps);
+    EXPECT_EQ(0, noted.count);
 }
 
 TEST_F(BlackWhite, AThousandJobsLeaveNoHandleBehind) {
