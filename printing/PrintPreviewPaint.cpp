@@ -143,6 +143,8 @@ void PrintPreviewWindow::Button::OnDraw(CDC* dc) {
     const CXTPClientRect client(this);
     CRgn region;
     region.CreateRoundRectRgn(client.left, client.top, client.right + 1, client.bottom + 1, kCornerSize, kCornerSize);
+    region.OffsetRgn(
+        dc->GetViewportOrg()); // clips are in pixels of the device, which may hold a part of the button only
     dc->SelectClipRgn(&region);
     CXTPButton::OnDraw(dc);
     dc->SelectClipRgn(nullptr);

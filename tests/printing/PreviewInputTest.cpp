@@ -1,5 +1,6 @@
 // Mouse and wheel of a user, and the timer of the buttons.
 #include "PreviewFixture.h"
+#include "support/ImportPatch.h"
 
 namespace {
 
@@ -16,6 +17,16 @@ protected:
 };
 
 class PreviewButtons : public PreviewFixture {};
+
+CRect S_clip;
+int(WINAPI* S_selectClip)(HDC, HRGN);
+
+int WINAPI notedClip(HDC dc, HRGN region) {
+    if (region != nullptr) {
+        ::GetRgnBox(region, &S_clip);
+    }
+    return S_selectClip(dc, region);
+}
 
 } // namespace
 
@@ -112,4 +123,17 @@ TEST_F(PreviewButtons, AreDrawnWithinARoundedRectangle) {
         EXPECT_GT(picture.count(::GetSysColor(COLOR_3DFACE)), 400U);
         EXPECT_LT(picture.count(::GetSysColor(COLOR_3DFACE)), 38U * 18U) << "the icon";
     }
+}
+
+TEST_F(PreviewButtons, AreClippedWhereTheyStandAlsoWhenAPartIsDrawnAgain) {
+    update();
+    CRgn region;
+    region.CreateRoundRectRgn(0, 0, 41, 21, 2, 2);
+    CRect whole;
+    region.GetRgnBox(&whole);
+    const CRect part(20, 10, 40, 20);
+    const support::ImportPatch patch(::GetModuleHandleW(L"OrtinMfc.dll"), "gdi32.dll", "SelectClipRgn", notedClip);
+    S_selectClip = patch.original<int WINAPI(HDC, HRGN)>();
+    button(1).RedrawWindow(&part);
+    EXPECT_EQ(whole - part.TopLeft(), S_clip);
 }
