@@ -1,0 +1,72 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include <OrtinControls/GdiFontWrapper.h>
+#include <OrtinControls/GdiPenWrapper.h>
+
+#include "core/CommandLine.h"
+#include "core/chart/TrendLine.h"
+
+namespace Desk {
+
+/// What of a chart has a style of its own, besides each drawn line.
+enum class ChartPart : std::size_t {
+    RisingCandles,
+    FallingCandles,
+    Volume,
+    Average,
+    Grid,
+    Labels,
+    Range,         ///< the selected range
+    ArcMarker,     ///< an alert at the greatest high that is seen
+    EllipseMarker, ///< an alert at the greatest volume that is seen
+    NewLine,       ///< what a line begins with when it is drawn
+};
+inline constexpr std::size_t ChartPartCount = 10;
+
+/// The looks of one object. Which of it is used is `aspectsOf`'s to say.
+struct ChartStyle {
+    GdiPenWrapper pen; ///< its style is one of PS_SOLID to PS_DASHDOTDOT
+    COLORREF fill = 0;
+    COLORREF text = 0;
+    GdiFontWrapper font;
+    double opacity = 1; ///< 0 to 1
+};
+
+/// What of a style can be seen, and so changed.
+struct StyleAspects {
+    bool line = false; ///< colour of the pen
+    bool width = false;
+    bool dash = false;
+    bool fill = false;
+    bool font = false; ///< with the colour of the text
+    bool opacity = false;
+};
+StyleAspects aspectsOf(ChartPart part);
+/// "Świece rosnące".
+const wchar_t* nameOf(ChartPart part);
+
+using ChartStyles = std::array<ChartStyle, ChartPartCount>;
+ChartStyles defaultStyles(DeskTheme theme);
+
+/// A line on the chart of one instrument.
+struct DrawnLine {
+    std::string symbol; ///< in UTF-8
+    AnchoredLine line;
+    ChartStyle style;
+};
+
+/// What the chart keeps from one start to the next.
+struct ChartMemory {
+    std::array<ChartStyles, 2> styles; ///< by theme
+    std::vector<DrawnLine> lines;
+
+    ChartMemory();
+    ChartStyles& stylesOf(DeskTheme theme) { return styles[static_cast<std::size_t>(theme)]; }
+};
+
+} // namespace Desk

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/chart/Candles.h"
+#include "core/chart/TimeScale.h"
+
+namespace Desk {
+
+/// A vertical grid line at the first candle of a day, week, month, quarter or year.
+struct DateMark {
+    double place = 0; ///< the left edge of that candle
+    std::wstring label;
+};
+
+/// Marks of the visible candles at least `leastDistance` pixels from each other, of the finest division that allows it:
+/// "7 sty", "sty 2015" in the first month of a year, "lut", "2015".
+std::vector<DateMark> dateGrid(const Candles& candles, const TimeScale& scale, int leastDistance);
+
+/// "7 stycznia 2015".
+std::wstring formatLongDate(std::chrono::sys_days date);
+/// "07.01.2015".
+std::wstring formatShortDate(std::chrono::sys_days date);
+
+} // namespace Desk
