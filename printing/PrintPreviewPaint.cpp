@@ -11,6 +11,7 @@
 
 #include "../graphics/ScopedFlag.h"
 #include "PreviewLayout.h"
+#include "StretchedPages.h"
 
 namespace {
 
@@ -76,14 +77,14 @@ void PrintPreviewWindow::Draw(CDC* dc) {
         DrawPageShadow(dc, x, y);
         if (auto next = SetupPageBitmap(page, dc, &memory)) {
             bitmap = std::move(next);
-            const CRect source = m_printInfo->PrintAreaInObjectUnits();
-            dc->StretchBlt(x, y, m_previewRect.Width(), pageHeight, &memory, 0, 0, source.Width(), source.Height(),
-                           SRCCOPY);
+            m_stretchedPages->draw(*dc, CRect(CPoint(x, y), m_previewRect.Size()), memory, bitmap,
+                                   m_printInfo->PrintAreaInObjectUnits().Size());
         }
         if (GetSafeHwnd() == nullptr || m_updates != update) {
             return; // the printable closed the window or began anew
         }
     }
+    m_stretchedPages->forgetUnused();
 }
 
 std::shared_ptr<CBitmap> PrintPreviewWindow::SetupPageBitmap(int page, CDC* dc, CDC* memoryDC) {

@@ -11,6 +11,7 @@
 #include "../module/ModuleRecord.h"
 #include "LentPrinterDC.h"
 #include "PreviewLayout.h"
+#include "StretchedPages.h"
 
 namespace {
 
@@ -48,7 +49,9 @@ BEGIN_MESSAGE_MAP(PrintPreviewWindow, CWnd)
     ON_WM_TIMER()
 END_MESSAGE_MAP()
 
-PrintPreviewWindow::PrintPreviewWindow() : m_leftMargin(PreviewLayout::kLeastLeftMargin) {}
+PrintPreviewWindow::PrintPreviewWindow()
+    : m_stretchedPages(std::make_unique<StretchedPages>()),
+      m_leftMargin(PreviewLayout::kLeastLeftMargin) {}
 
 PrintPreviewWindow::~PrintPreviewWindow() {
     // While the window lives, messages reach the buttons.
@@ -107,6 +110,7 @@ void PrintPreviewWindow::Update(HDC printerDC) {
     }
     ++m_updates;
     m_pageBitmaps.clear();
+    m_stretchedPages->clear();
     {
         LentPrinterDC dc(printerDC);
         m_printable->OnBeginPrinting(&dc, m_printInfo);

@@ -17,10 +17,10 @@ class PrintInfoEx;
 /// `OnEndPrinting` is the owner's to call.
 ///
 /// `Update` lets the printable divide its document; a page is drawn once, by `OnPrint` without `OnPrepareDC`, when it
-/// first comes into view, and kept as a bitmap of the printer's pixels: 4 bytes for each, whatever the scale. A page of
-/// A4 costs 3.6 MB at 96 dots in an inch and 139 MB at 600, so that a host that does not want to pay for it gives a
-/// context of a coarser device. A unit of the print area is a pixel of the bitmap: what the print area has beyond the
-/// pixels of the device is not shown.
+/// first comes into view, and kept as a bitmap of the printer's pixels: 4 bytes for each, whatever the scale; the pages
+/// in view are kept once more as they stand there, where that is smaller. A page of A4 costs 3.6 MB at 96 dots in an
+/// inch and 139 MB at 600, so that a host that does not want to pay for it gives a context of a coarser device. A unit
+/// of the print area is a pixel of the bitmap: what the print area has beyond the pixels of the device is not shown.
 ///
 /// Ctrl with the wheel and two buttons in the lower middle change the scale. The buttons are hidden, from five seconds
 /// after `Create` on, while the mouse is elsewhere. The client area is filled with colour 35 of
@@ -86,6 +86,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    class StretchedPages;
+
     void centrePages();
     bool updateBar(int bar, int clientExtent, int totalExtent);
     bool isInHotRect(CPoint point) const;
@@ -93,6 +95,7 @@ private:
     PrintInfoEx* m_printInfo = nullptr;
     IPrintable* m_printable = nullptr;
     std::map<int, std::shared_ptr<CBitmap>> m_pageBitmaps;
+    std::unique_ptr<StretchedPages> m_stretchedPages;
     CRect m_pageRect;
     CRect m_previewRect;
     int m_leftMargin;
