@@ -43,7 +43,7 @@ CandleBook readCandles(std::istream& input, const std::string& fileName);
 CandleBook readCandles(const std::filesystem::path& file);
 
 /// Invented candles of working days up to `lastDay`, the last one closing at `lastClose`; the same ones for the same
-/// arguments, another course for each symbol.
+/// arguments, another course for each symbol. None if `lastClose` is not above 0.
 Candles sampleCandles(std::string_view symbol, double lastClose, std::chrono::sys_days lastDay, std::size_t count);
 
 } // namespace Desk

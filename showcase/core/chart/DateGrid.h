@@ -8,14 +8,15 @@
 
 namespace Desk {
 
-/// A vertical grid line at the first candle of a day, week, month, quarter or year.
+/// A vertical grid line at the first candle of a day, week, month, quarter, year or of several years.
 struct DateMark {
     double place = 0; ///< the left edge of that candle
     std::wstring label;
 };
 
-/// Marks of the visible candles at least `leastDistance` pixels from each other, of the finest division that allows it:
-/// "7 sty", "sty 2015" in the first month of a year, "lut", "2015".
+/// Marks of the visible candles at least `leastDistance` pixels from each other, of the finest division that usually
+/// allows it: "7 sty", "sty 2015" in the first month of a year, "lut", "2015". Where the series has gaps, so that two
+/// are nearer, the later one is left out. What is marked depends on the width of a candle, not on how it is panned.
 std::vector<DateMark> dateGrid(const Candles& candles, const TimeScale& scale, int leastDistance);
 
 /// "7 stycznia 2015".

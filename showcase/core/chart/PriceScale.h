@@ -8,8 +8,8 @@ namespace Desk {
 /// A linear axis that grows upwards: prices or volumes on the pixels of a plot.
 class PriceScale {
 public:
-    /// `low` lies on the lower edge, the pixel line `bottom`, `high` on `top`, which is less. A span of nothing is
-    /// widened, so that there is always a scale.
+    /// `low` lies on the lower edge, the pixel line `bottom`, `high` on `top`, which is less. A span of nothing, or of
+    /// hardly anything beside its values, is widened, so that there is always a scale, whatever the numbers are.
     PriceScale(double low, double high, int top, int bottom);
 
     double yOf(double value) const { return m_bottom - (value - m_low) * m_pixels; }

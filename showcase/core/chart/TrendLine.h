@@ -63,7 +63,7 @@ struct AnchoredLine {
 
     bool operator==(const AnchoredLine&) const = default;
 };
-/// `candles` is not empty.
+/// For both `candles` is not empty.
 AnchoredLine anchored(const TrendLine& line, const Candles& candles);
 TrendLine placed(const AnchoredLine& line, const Candles& candles);
 
