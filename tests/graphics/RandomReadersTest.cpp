@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int kRounds = 500000;
+constexpr int kRounds = 50000;
 
 using Outcomes = std::map<std::string, int>;
 

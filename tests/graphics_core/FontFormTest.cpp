@@ -8,7 +8,6 @@
 
 #include "Descriptions.h"
 #include "FontForm.h"
-#include "RandomDocuments.h"
 
 namespace {
 
@@ -133,20 +132,4 @@ TEST(FontHeight, IsNarrowedOrRefused) {
                                std::numeric_limits<double>::quiet_NaN()}) {
         EXPECT_THROW(FontForm::narrowed(whole), gsl::narrowing_error) << whole;
     }
-}
-
-TEST(FontText, TakesAnyTextWithoutHarm) {
-    RandomDocuments documents(13);
-    int complete = 0;
-    for (int round = 0; round < 500000; ++round) {
-        FontDescription font = kEachFieldItsOwn;
-        const std::string text = documents.nextText();
-        if (FontForm::fromText(text, font)) {
-            ++complete;
-            FontDescription again{};
-            ASSERT_TRUE(FontForm::fromText(describe(font), again));
-            ASSERT_EQ(font, again) << text;
-        }
-    }
-    EXPECT_GT(complete, 1000);
 }

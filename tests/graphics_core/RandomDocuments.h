@@ -19,7 +19,7 @@ public:
         case 0:
             return anything(4);
         case 1:
-            return nested(static_cast<int>(below(200)));
+            return nested(static_cast<int>(below(below(16) == 0 ? 200 : 8)));
         default:
             return form();
         }
@@ -76,6 +76,7 @@ private:
         static const std::string pieces[] = {
             "T", "a", " ", "\xC5\xBC", "\xF0\x9F\x93\x88", std::string(1, '\0'), "\xED\xA0\x80", "\xFF"};
         std::string text;
+        text.reserve(160);
         for (std::uint32_t count = below(41); count > 0; --count) {
             text += pieces[below(below(4) == 0 ? 8 : 5)];
         }

@@ -1,3 +1,4 @@
+// What nobody would write, 500,000 times.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -7,7 +8,7 @@
 #include "FontForm.h"
 #include "RandomDocuments.h"
 
-/// What nobody would write, 500,000 times: nothing but the promised exceptions, with their words.
+/// Nothing but the promised exceptions, with their words.
 TEST(RandomDocument, GivesNothingButThePromisedOutcomes) {
     RandomDocuments documents(500);
     std::map<std::string, int> brushes;
@@ -47,4 +48,20 @@ TEST(RandomDocument, GivesNothingButThePromisedOutcomes) {
     EXPECT_EQ(2U, fonts.size());
     EXPECT_GT(fonts["read"], 100000);
     EXPECT_GT(fonts["not an int64"], 10000);
+}
+
+TEST(RandomText, IsReadAsAFontOrRefusedWithoutHarm) {
+    RandomDocuments documents(13);
+    int complete = 0;
+    for (int round = 0; round < 500000; ++round) {
+        FontDescription font{};
+        const std::string text = documents.nextText();
+        if (FontForm::fromText(text, font)) {
+            ++complete;
+            FontDescription again{};
+            ASSERT_TRUE(FontForm::fromText(FontForm::toText(font), again));
+            ASSERT_EQ(font, again) << text;
+        }
+    }
+    EXPECT_GT(complete, 1000);
 }
