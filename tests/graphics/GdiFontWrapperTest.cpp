@@ -2,6 +2,8 @@
 
 #include <OrtinControls/FontsObjManager.h>
 #include <OrtinControls/GdiFontWrapper.h>
+#include <OrtinControls/GdiTools.h>
+#include <OrtinFoundation/Settings.h>
 
 #include "GdiDescriptions.h"
 #include "support/ImportPatch.h"
@@ -17,6 +19,15 @@ LOGFONTW descriptionOf(HFONT font) {
     LOGFONTW description{};
     EXPECT_EQ(static_cast<int>(sizeof description), ::GetObjectW(font, sizeof description, &description));
     return description;
+}
+
+/// Half of a text is read beneath a font that stays in use, so that the cache would now give another one.
+void changeBeneathItsFont(GdiFontWrapper& font) {
+    font.GetHFONT();
+    Settings settings;
+    settings.Version = 1;
+    settings["Params"] = L"-90";
+    font.Unserialize(settings);
 }
 
 } // namespace
@@ -103,13 +114,51 @@ TEST(Font, CopiesItsDescriptionAlone) {
     const HFONT handle = source.GetHFONT();
     GdiFontWrapper copy(source);
     EXPECT_TRUE(copy == source);
-    // The copy asks the cache itself: nothing is asked for a wrapper that has its font.
     const support::ImportPatch patch(::GetModuleHandleW(L"OrtinControls.dll"), "gdi32.dll", "CreateFontIndirectW",
                                      &refuseFont);
     EXPECT_EQ(handle, copy.GetHFONT());
     copy.FromLOGFONT(tahoma(-62), 0);
     EXPECT_EQ(handle, source.GetHFONT());
     EXPECT_EQ(nullptr, copy.GetHFONT()) << "null if the system refuses the font";
+}
+
+TEST(Font, GivesUpItsGdiFontWithEachChangeThoughTheKeyStays) {
+    struct Case {
+        const char* what;
+        void (*change)(GdiFontWrapper& font);
+    };
+    const Case cases[] = {
+        {"its own description", [](GdiFontWrapper& font) { font.FromLOGFONT(font.GetLOGFONT(), 0); }},
+        {"an angle", [](GdiFontWrapper& font) { font.SetAngle(45); }},
+        {"a copy of itself", [](GdiFontWrapper& font) { font = GdiFontWrapper(font); }},
+    };
+    for (const Case& c : cases) {
+        GdiFontWrapper font(tahoma(-61), 0);
+        changeBeneathItsFont(font);
+        ASSERT_EQ(-61, descriptionOf(font.GetHFONT()).lfHeight);
+        c.change(font);
+        EXPECT_EQ(font.GetHeight(), descriptionOf(font.GetHFONT()).lfHeight) << c.what;
+    }
+}
+
+TEST(Font, SharesNoGdiFontWithItsCopy) {
+    GdiFontWrapper source(tahoma(-61), 0);
+    changeBeneathItsFont(source);
+    GdiFontWrapper copy(source);
+    GdiFontWrapper assigned(tahoma(-62), 0);
+    assigned = source;
+    for (GdiFontWrapper* other : {&copy, &assigned}) {
+        EXPECT_EQ(source.GetHeight(), descriptionOf(other->GetHFONT()).lfHeight);
+    }
+    EXPECT_EQ(-61, descriptionOf(source.GetHFONT()).lfHeight);
+}
+
+TEST(Font, KeepsItsGdiFontIfItIsMergedWithItsEqual) {
+    GdiFontWrapper font(tahoma(-61), 0);
+    changeBeneathItsFont(font);
+    const GdiFontWrapper equal(font);
+    GdiTools::UpdateFont(false, equal, font);
+    EXPECT_EQ(-61, descriptionOf(font.GetHFONT()).lfHeight) << "nothing happens";
 }
 
 TEST(Font, IsEqualInEveryByteOfItsDescription) {

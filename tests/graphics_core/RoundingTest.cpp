@@ -34,3 +34,15 @@ TEST(Truncation, GoesTowardZeroAndStaysInTheRangeOfInt) {
         EXPECT_EQ(c.whole, truncateToInt(c.value)) << c.what;
     }
 }
+
+TEST(Saturation, KeepsWhatIsInTheRangeOfIntAndEndsAtItsBorders) {
+    constexpr std::int64_t kMost = std::numeric_limits<int>::max();
+    constexpr std::int64_t kLeast = std::numeric_limits<int>::min();
+    for (const std::int64_t kept : {std::int64_t{0}, std::int64_t{-80}, kMost, kLeast}) {
+        EXPECT_EQ(kept, saturateToInt(kept));
+    }
+    EXPECT_EQ(kMost, saturateToInt(kMost + 1));
+    EXPECT_EQ(kMost, saturateToInt(std::numeric_limits<std::int64_t>::max()));
+    EXPECT_EQ(kLeast, saturateToInt(kLeast - 1));
+    EXPECT_EQ(kLeast, saturateToInt(std::numeric_limits<std::int64_t>::min()));
+}
