@@ -62,7 +62,7 @@ bool isTruncated(int whole, const Fraction& exact) {
 
 } // namespace
 
-TEST(HslOfAColour, IsTheTruncatedFractionForEveryColour) {
+TEST(EveryColour, HasTheTruncatedFractionsAsItsHsl) {
     for (std::uint32_t color = 0; color < kColors; ++color) {
         const int red = static_cast<int>(color & 255);
         const int green = static_cast<int>(color >> 8 & 255);
@@ -82,7 +82,7 @@ TEST(HslOfAColour, IsTheTruncatedFractionForEveryColour) {
     }
 }
 
-TEST(ColourOfHsl, IsTheTruncatedFractionForEveryHsl) {
+TEST(EveryHsl, HasTheTruncatedFractionsAsItsColour) {
     for (std::uint32_t index = 0; index < kColors; ++index) {
         const Hsl hsl{static_cast<std::uint8_t>(index), static_cast<std::uint8_t>(index >> 8),
                       static_cast<std::uint8_t>(index >> 16)};
