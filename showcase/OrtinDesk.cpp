@@ -4,13 +4,13 @@
 #include <string>
 #include <vector>
 
+#include <OrtinControls/GdiPlusHeaders.h>
 #include <OrtinFoundation/StringTools.h>
 #include <afxwin.h>
 #include <shellapi.h>
 
 #include "DeskSettings.h"
 #include "DeskWindow.h"
-#include "GdiPlus.h"
 #include "Scenes.h"
 #include "StandardStreams.h"
 #include "core/CommandLine.h"

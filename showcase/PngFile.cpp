@@ -1,6 +1,6 @@
 #include "PngFile.h"
 
-#include "GdiPlus.h"
+#include <OrtinControls/GdiPlusHeaders.h>
 
 namespace Desk {
 
