@@ -3,24 +3,9 @@
 #include <OrtinControls/IVectorPainter.h>
 #include <OrtinFoundation/UniqueMessage.h>
 
+#include "WindowDevice.h"
+
 namespace VectorCanvas {
-namespace {
-
-class WindowDevice {
-public:
-    explicit WindowDevice(HWND window) : m_window(window), m_device(::GetDC(window)) {}
-    ~WindowDevice() { ::ReleaseDC(m_window, m_device); }
-    WindowDevice(const WindowDevice&) = delete;
-    WindowDevice& operator=(const WindowDevice&) = delete;
-
-    operator HDC() const { return m_device; }
-
-private:
-    HWND m_window; ///< which may end while it is drawn to
-    HDC m_device;
-};
-
-} // namespace
 
 IMPLEMENT_DYNAMIC(VectorCanvasCtrl, CWnd)
 

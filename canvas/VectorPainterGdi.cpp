@@ -4,23 +4,9 @@
 
 #include <OrtinControls/VectorCanvasCtrl.h>
 
+#include "WindowDevice.h"
+
 namespace VectorCanvas {
-namespace {
-
-class ScreenDevice {
-public:
-    ScreenDevice() : m_device(::GetDC(nullptr)) {}
-    ~ScreenDevice() { ::ReleaseDC(nullptr, m_device); }
-    ScreenDevice(const ScreenDevice&) = delete;
-    ScreenDevice& operator=(const ScreenDevice&) = delete;
-
-    operator HDC() const { return m_device; }
-
-private:
-    HDC m_device;
-};
-
-} // namespace
 
 VectorPainterGdi::VectorPainterGdi() = default;
 
@@ -83,7 +69,7 @@ bool VectorPainterGdi::InitDestination(const CSize& size) {
     if (m_source != nullptr || m_destination.GetHandle() != nullptr) {
         return false;
     }
-    const ScreenDevice screen;
+    const WindowDevice screen(nullptr);
     if (!m_destination.CreateCompatibleBitmap(screen, size.cx, size.cy)) {
         return false;
     }
