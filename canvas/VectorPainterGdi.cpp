@@ -20,9 +20,7 @@ VectorPainterGdi& VectorPainterGdi::operator=(VectorPainterGdi&& other) noexcept
     return *this;
 }
 
-VectorPainterGdi::~VectorPainterGdi() {
-    Release();
-}
+VectorPainterGdi::~VectorPainterGdi() = default;
 
 void VectorPainterGdi::Swap(VectorPainterGdi& other) noexcept {
     std::swap(m_gdiPlus, other.m_gdiPlus);
