@@ -94,11 +94,9 @@ bool GdiplusPainter::HasShadow(const DrawContextBase& context) const {
 }
 
 void GdiplusPainter::MarkArea(const DrawContextBase& context, const Gdiplus::Rect& area) const {
-    if (HasShadow(context)) {
-        Gdiplus::Graphics graphics(m_shadow);
-        const Gdiplus::SolidBrush brush(GetShadowPenColor(&context));
-        graphics.FillRectangle(&brush, area);
-    }
+    Gdiplus::Graphics graphics(m_shadow);
+    const Gdiplus::SolidBrush brush(GetShadowPenColor(&context));
+    graphics.FillRectangle(&brush, area);
 }
 
 template <typename Fill, typename Outline>
@@ -131,9 +129,11 @@ void GdiplusPainter::DrawBitmap(const Point& position, const Point& offset, cons
     }
     const Gdiplus::Point corner = toGdiPlusPoint(position + offset);
     Gdiplus::Graphics(m_destination).DrawImage(bitmap, corner.X, corner.Y);
-    const auto width = static_cast<INT>(bitmap->GetWidth());
-    const auto height = static_cast<INT>(bitmap->GetHeight());
-    MarkArea(*context, {corner.X, corner.Y, width, height});
+    if (HasShadow(*context)) {
+        const auto width = static_cast<INT>(bitmap->GetWidth());
+        const auto height = static_cast<INT>(bitmap->GetHeight());
+        MarkArea(*context, {corner.X, corner.Y, width, height});
+    }
 }
 
 void GdiplusPainter::DrawBitmap(const Point& position, const Point& offset, const Point& size,
@@ -144,7 +144,9 @@ void GdiplusPainter::DrawBitmap(const Point& position, const Point& offset, cons
     const Gdiplus::Point extent = toGdiPlusPoint(size);
     const Gdiplus::Rect area(toGdiPlusPoint(position + offset), {extent.X, extent.Y});
     Gdiplus::Graphics(m_destination).DrawImage(bitmap, area);
-    MarkArea(*context, area);
+    if (HasShadow(*context)) {
+        MarkArea(*context, area);
+    }
 }
 
 void GdiplusPainter::DrawPolygon(const Point* points, unsigned __int64 count, const DrawContextBase* context,

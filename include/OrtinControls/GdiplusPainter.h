@@ -61,6 +61,7 @@ private:
     /// The id as an opaque colour.
     static Gdiplus::Color GetShadowPenColor(const VectorCanvas::DrawContextBase* context);
     bool HasShadow(const VectorCanvas::DrawContextBase& context) const;
+    /// Makes all of `area` the object's, in the shadow that there is.
     void MarkArea(const VectorCanvas::DrawContextBase& context, const Gdiplus::Rect& area) const;
     /// In picture and shadow; `fill` in the picture only.
     template <typename Fill, typename Outline>

@@ -106,7 +106,6 @@ TEST_F(LineContext, TakesOverAPen) {
         {PS_DASHDOTDOT, Gdiplus::DashStyleDashDotDot},
     };
     for (const Case& c : cases) {
-        const CPen pen(c.style, 3, RGB(1, 2, 3));
         LOGPEN wanted{static_cast<UINT>(c.style), {3, 0}, RGB(1, 2, 3)};
         const HPEN handle = ::CreatePenIndirect(&wanted);
         line.GetHGDIOBJ();

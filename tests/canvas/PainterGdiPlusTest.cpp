@@ -278,6 +278,14 @@ TEST_F(GdiPlusPainter, RemembersAFailedLookAtABitmapsSize) {
     EXPECT_EQ(std::set<unsigned int>{0}, idsInShadow());
 }
 
+TEST_F(GdiPlusPainter, LooksAtABitmapsSizeForTheShadowOnly) {
+    Gdiplus::Bitmap missing(L"Q:\\there is no such picture.png");
+    missing.GetLastStatus();
+    line.SetId(0);
+    painter.DrawBitmap({0, 0}, {0, 0}, &line, &missing);
+    EXPECT_EQ(Gdiplus::Ok, missing.GetLastStatus());
+}
+
 TEST_F(GdiPlusPainter, DrawsNothingOfNothing) {
     const Point points[] = {{5, 5}, {40, 5}, {40, 30}};
     EXPECT_EQ("", callsOf([&] {

@@ -278,7 +278,12 @@ TEST_F(Surfaces, AreClippedUntilTheFrameEnds) {
     EXPECT_EQ(0U, painter.GetObjectId(9, 10));
     EXPECT_EQ(kId, painter.GetObjectId(19, 14));
     EXPECT_EQ(50U, shadow().count(kId));
+    begin(); // the same surfaces
+    painter.DrawRect({0, 0, kWidth, kHeight}, kRed, kBlue, kId);
+    EXPECT_EQ(0U, picture().count(kWhite)) << "clipped no more";
+    EXPECT_EQ(std::set<unsigned int>{kId}, idsInShadow());
 
+    begin();
     const RECT other{1, 1, 3, 3};
     painter.SetClipRegion(&clip);
     painter.SetClipRegion(&other);
@@ -287,6 +292,8 @@ TEST_F(Surfaces, AreClippedUntilTheFrameEnds) {
     painter.SetClipRegion(nullptr);
     painter.Clear(kGreen);
     EXPECT_EQ(kGreen, picture().onlyColour(picture().bounds()));
+    painter.DrawRect({0, 0, kWidth, kHeight}, kRed, kBlue, kId);
+    EXPECT_EQ(std::set<unsigned int>{kId}, idsInShadow());
 }
 
 TEST_F(Surfaces, ClippedToNothingShowNothing) {

@@ -151,6 +151,18 @@ TEST_F(PainterText, AtAPointLeavesTheDeviceAsItWas) {
     EXPECT_EQ(before, ::GetCurrentObject(source, OBJ_FONT));
 }
 
+TEST_F(PainterText, AtAPointLeavesTheShadowItsFont) {
+    painter.DrawTextW(L"Kurs", {10, 5, 90, 30}, text, DT_LEFT);
+    const support::Pixels cell = shadow();
+    begin(120, 50);
+    text.UpdateContext(Font(39), kBlue);
+    text.SetId(0x654321);
+    painter.DrawTextW({500, 5}, L"Kurs", text, {0, 0});
+    text.SetId(kId);
+    painter.DrawTextW(L"Kurs", {10, 5, 90, 30}, text, DT_LEFT);
+    EXPECT_EQ(cell, shadow());
+}
+
 TEST_F(PainterText, AtAPointEndsAtItsTerminatorWhateverTheViewSays) {
     painter.DrawTextW({10, 5}, std::wstring_view(L"Kurs\0 12,5", 10), text, {0, 0});
     const support::Pixels shorter = picture();

@@ -9,7 +9,7 @@ class RandomScene : public PainterFixture {
 protected:
     static constexpr int kSceneWidth = 240;
     static constexpr int kSceneHeight = 160;
-    static constexpr int kCalls = 13;
+    static constexpr int kCalls = 16;
 
     int pick(int from, int to) { return std::uniform_int_distribution<int>(from, to)(m_random); }
     float coordinate(int size) { return static_cast<float>(pick(-80, (size + 20) * 4)) / 4.0F; }
@@ -27,6 +27,16 @@ protected:
             context.SetCustomDashStyle({3.0F, 1.5F, 1.0F, 2.0F});
         }
         context.SetId(nextId());
+    }
+    VectorCanvas::DrawContextGdiText& styledText() {
+        LOGFONTW description{};
+        description.lfHeight = pick(8, 40);
+        description.lfQuality = CLEARTYPE_QUALITY;
+        const HFONT font = ::CreateFontIndirectW(&description);
+        m_text.UpdateContext(font, color());
+        ::DeleteObject(font);
+        m_text.SetId(nextId());
+        return m_text;
     }
     unsigned int nextId() {
         const auto id = static_cast<unsigned int>(pick(1, 0xFFFFFF));
@@ -83,6 +93,16 @@ protected:
         case 11:
             painter.DrawRect({point().x, point().y, coordinate(60), coordinate(60)}, color(), color(), nextId());
             break;
+        case 12:
+            painter.DrawBitmap(point(), offset, &line, &m_bitmap);
+            break;
+        case 13:
+            painter.DrawTextW(point(), L"Kurs 12,5", styledText(), offset);
+            break;
+        case 14:
+            painter.DrawTextW(L"Kurs 12,5", {point().x, point().y, coordinate(60), coordinate(60)}, styledText(),
+                              pick(0, 1) == 0 ? DT_LEFT : DT_RIGHT | DT_BOTTOM | DT_NOCLIP);
+            break;
         default:
             painter.DrawControlPoints(nextId(), points.data(), points.size(), offset,
                                       {color(), pick(0, 3), color(), pick(0, 1) == 0, pick(0, 12), pick(0, 1) == 0,
@@ -94,6 +114,7 @@ protected:
     std::mt19937 m_random{20'261'121};
     std::set<unsigned int> m_ids{0};
     Gdiplus::Bitmap m_bitmap{16, 16};
+    VectorCanvas::DrawContextGdiText m_text;
 };
 
 } // namespace
