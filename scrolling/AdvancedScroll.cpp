@@ -21,7 +21,6 @@ constexpr UINT kHoldMilliseconds = 200;
 constexpr UINT_PTR kRepeatTimer = 2;
 constexpr UINT kRepeatMilliseconds = 100;
 
-constexpr int kWheelNotch = 120;
 constexpr double kPartOfWindowPerNotch = 0.1;
 
 LPCWSTR cursorOf(Part part) {
@@ -40,6 +39,18 @@ BarSize clientSize(const CWnd& bar) {
     CRect client;
     bar.GetClientRect(&client);
     return {client.Width(), client.Height()};
+}
+
+CPoint cursorIn(const CWnd& bar) {
+    CPoint cursor;
+    ::GetCursorPos(&cursor);
+    bar.ScreenToClient(&cursor);
+    return cursor;
+}
+
+AdvancedScroll::ChangeMessageInfo changeTo(const RangeWindow& window, AdvancedScroll::EChangeType type,
+                                           double delta = 0.0) {
+    return {delta, window.start, window.end, type};
 }
 
 } // namespace
@@ -83,9 +94,7 @@ void AdvancedScroll::SetCurrent(double start, double end) {
         return;
     }
     UpdateRects();
-    CPoint cursor;
-    ::GetCursorPos(&cursor);
-    ScreenToClient(&cursor);
+    const CPoint cursor = cursorIn(*this);
     AdvancedScrollState::Gesture& gesture = state->gesture;
     const std::optional<int> base = BarDrag::rebased(state->layout, gesture.drag, cursor.x);
     if (base) {
@@ -102,7 +111,7 @@ void AdvancedScroll::SetCurrent(double start, double end) {
 
 void AdvancedScroll::MoveZoomOnWheel(short delta) {
     // Less than a notch is meant to move nothing; the host is told all the same.
-    const int notches = delta / kWheelNotch;
+    const int notches = delta / WHEEL_DELTA;
     OnMovement(m_state->window.width() * notches * kPartOfWindowPerNotch);
 }
 
@@ -125,22 +134,19 @@ bool AdvancedScroll::MoveBy(long dx) {
 bool AdvancedScroll::OnMovement(double delta) {
     RangeWindow& window = m_state->window;
     window.move(delta);
-    return SendChangedMessage({delta, window.start, window.end, MovementInProgress});
+    return SendChangedMessage(changeTo(window, MovementInProgress, delta));
 }
 
 bool AdvancedScroll::OnMovementCompleted() {
-    const RangeWindow& window = m_state->window;
-    return SendChangedMessage({0.0, window.start, window.end, MovementCompleted});
+    return SendChangedMessage(changeTo(m_state->window, MovementCompleted));
 }
 
 bool AdvancedScroll::OnRange() {
-    const RangeWindow& window = m_state->window;
-    return SendChangedMessage({0.0, window.start, window.end, RangeChangeInProgress});
+    return SendChangedMessage(changeTo(m_state->window, RangeChangeInProgress));
 }
 
 bool AdvancedScroll::OnRangeCompleted() {
-    const RangeWindow& window = m_state->window;
-    return SendChangedMessage({0.0, window.start, window.end, RangeChangeCompleted});
+    return SendChangedMessage(changeTo(m_state->window, RangeChangeCompleted));
 }
 
 bool AdvancedScroll::SendChangedMessage(ChangeMessageInfo info) {
@@ -198,10 +204,7 @@ void AdvancedScroll::OnTimer(UINT_PTR id) {
         KillTimer(kRepeatTimer);
         return;
     }
-    CPoint cursor;
-    ::GetCursorPos(&cursor);
-    ScreenToClient(&cursor);
-    if (MoveTo(cursor.x)) {
+    if (MoveTo(cursorIn(*this).x)) {
         Invalidate(FALSE);
         Default();
     }
