@@ -43,10 +43,6 @@ int inPercent(int value, unsigned percent) {
     return static_cast<int>(std::min<std::int64_t>(std::int64_t{value} * percent / 100, 100));
 }
 
-int limited(unsigned limit) {
-    return saturateToInt(limit);
-}
-
 } // namespace
 
 Hsl fromColor(std::uint32_t color) {
@@ -99,13 +95,13 @@ std::uint32_t ModifyIntensityAndSaturation(std::uint32_t color, unsigned intensi
 
 std::uint32_t Desaturate(std::uint32_t color, unsigned limit) {
     Hsl hsl = fromColor(color);
-    hsl.saturation = std::min(hsl.saturation, limited(limit));
+    hsl.saturation = std::min(hsl.saturation, saturateToInt(limit));
     return toColor(hsl);
 }
 
 std::uint32_t Lighten(std::uint32_t color, unsigned limit) {
     Hsl hsl = fromColor(color);
-    hsl.lightness = std::max(hsl.lightness, limited(limit));
+    hsl.lightness = std::max(hsl.lightness, saturateToInt(limit));
     return toColor(hsl);
 }
 
