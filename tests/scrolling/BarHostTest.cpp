@@ -268,6 +268,14 @@ TEST_F(BarOwner, MayDestroyTheWindowWheneverItIsTold) {
     EXPECT_EQ("", log()) << "no drag has survived its window";
 }
 
+TEST_F(BarOwner, MayMakeTheWindowAnewInTheMiddleOfADragWhichIsOver) {
+    press(200);
+    bar->DestroyWindow();
+    createBar();
+    dragTo(204);
+    EXPECT_EQ("", log());
+}
+
 TEST_F(BarOwner, MayDeleteTheBarWheneverItIsTold) {
     for (const Telling& telling : tellings()) {
         SCOPED_TRACE(telling.what);

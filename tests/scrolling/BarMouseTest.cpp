@@ -184,6 +184,15 @@ TEST_F(BarMouse, ShowsWhatItIsOver) {
     }
 }
 
+TEST_F(BarMouse, ForgetsAnEdgeThatReachesPastTheBarWhenItLeaves) {
+    show(0.0, 1.0); // the left edge is taken from -6 on
+    moveTo(-3);
+    EXPECT_FALSE(hasCapture());
+    ::SetCursor(nullptr);
+    bar->SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(bar->m_hWnd), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    EXPECT_EQ("arrow", cursor());
+}
+
 TEST_F(BarMouse, ShowsWhatItDragsWhereverItIs) {
     press(200);
     dragTo(-100);

@@ -120,6 +120,26 @@ protected:
 
 constexpr unsigned kNever = 12345; // the 16-bit position, which nobody reads
 
+constexpr int kThinBar = 5;
+constexpr int kBarThickerThanTheWindow = 1000;
+
+int WINAPI unequalBars(int metric) {
+    return metric == SM_CXVSCROLL ? kThinBar : kBarThickerThanTheWindow;
+}
+
+/// A thumb that is held away from the position.
+BOOL WINAPI giveTrackPosition(HWND /*window*/, int bar, SCROLLINFO* info) {
+    EXPECT_EQ(28U, info->cbSize);
+    EXPECT_EQ(16U, info->fMask);
+    info->nPos = 1;
+    info->nTrackPos = bar == SB_VERT ? 400 : bar == SB_HORZ ? 50 : 300;
+    return TRUE;
+}
+
+HMODULE product() {
+    return ::GetModuleHandleW(L"OrtinControls.dll");
+}
+
 } // namespace
 
 TEST_F(Processor, ShowsBothBarsOfADisplayThatIsLarger) {
@@ -142,6 +162,13 @@ TEST_F(Processor, TakesTheRoomOfTheBarsForClientArea) {
     processor.SetDisplaySize(10, 10);
     EXPECT_EQ(CRect(0, 0, 300, 200), ScrollProcessor::GetClientRectSB(&window));
     EXPECT_EQ(CRect(), ScrollProcessor::GetClientRectSB(nullptr));
+}
+
+TEST_F(Processor, TakesTheThicknessOfEachBarFromTheMetricOfItsOwn) {
+    CRect client;
+    window.GetClientRect(&client);
+    const ImportPatch bars(product(), "user32.dll", "GetSystemMetrics", &unequalBars);
+    EXPECT_EQ(CRect(0, 0, client.right + kThinBar, client.bottom), ScrollProcessor::GetClientRectSB(&window));
 }
 
 TEST_F(Processor, ScrollsToAPosition) {
@@ -237,6 +264,19 @@ TEST_F(Processor, ReadsTheTrackPositionOfTheWindowsOwnBar) {
     EXPECT_EQ("H at 90; scroll -90,0", log());
     processor.OnHScroll(SB_THUMBTRACK, kNever, nullptr);
     EXPECT_EQ("", log());
+}
+
+TEST_F(Processor, AsksForTheTrackPositionAloneWhichIsNotThePosition) {
+    CScrollBar control;
+    ASSERT_TRUE(control.Create(WS_CHILD | SBS_HORZ, CRect(0, 0, 100, 20), &window, 8));
+    log();
+    const ImportPatch thumb(product(), "user32.dll", "GetScrollInfo", &giveTrackPosition);
+    processor.OnVScroll(SB_THUMBTRACK, kNever, nullptr);
+    EXPECT_EQ("V at 400; scroll 0,-400", log());
+    processor.OnHScroll(SB_THUMBPOSITION, kNever, nullptr);
+    EXPECT_EQ("H at 50; scroll -50,0", log());
+    processor.OnHScroll(SB_THUMBTRACK, kNever, &control);
+    EXPECT_EQ("H at 300; scroll -250,0", log());
 }
 
 TEST_F(Processor, ReadsPositionsOfMoreThan16Bits) {
