@@ -1,5 +1,7 @@
 #include <OrtinFoundation/StringTools.h>
 
+#include <sstream>
+
 #include "../printing/PrinterOutput.h"
 #include "DeskProcess.h"
 #include "PrintedInstruments.h"
@@ -13,6 +15,15 @@ constexpr int FromId = 104;
 constexpr int ToId = 105;
 constexpr int FirstPartId = 110;
 constexpr int PagesId = 100;
+constexpr int StatusPageId = 204;
+
+std::string instrumentsOf(int count) {
+    std::ostringstream csv;
+    csv << "Symbol,Name,Sector,Price,PriceEarnings,DividendYield,EarningsPerShare,Low52Weeks,High52Weeks,MarketCap\n";
+    for (int row = 0; row < count; ++row)
+        csv << 'S' << row << ",Firma,Branża,100.5,60,0.02,3.5,50,200,1000000000\n";
+    return csv.str();
+}
 
 class PrintByKeys : public DeskOnScreen {
 protected:
@@ -80,6 +91,31 @@ TEST_F(PrintByKeys, ABadRangeKeepsTheDialogAndWhatWasTyped) {
     support::typeText(L"3");
     support::typeKey(VK_RETURN);
     EXPECT_EQ(printedPages(), "2 3");
+}
+
+TEST_F(PrintByKeys, AClickOnTheStatusWindowsCancelEndsAPrintOfManyRows) {
+    start({L"--instruments", m_folder.write(L"many.csv", instrumentsOf(50'000)).wstring()});
+    support::chord({VK_CONTROL, 'P'});
+    dialog(L"Drukuj");
+    support::typeKey(VK_RETURN);
+    HWND status = nullptr;
+    ASSERT_TRUE(eventually([&] {
+        status = ::FindWindowW(nullptr, L"Drukowanie");
+        return status && textOf(::GetDlgItem(status, StatusPageId)).starts_with(L"Strona ");
+    }));
+    EXPECT_FALSE(::IsWindowEnabled(desk()));
+    const HWND cancel = ::GetDlgItem(status, IDCANCEL);
+    support::click(onScreen(cancel, scaled(20), scaled(10)));
+    EXPECT_TRUE(eventually([&] { return !::IsWindow(status) && ::IsWindowEnabled(desk()); }));
+    EXPECT_FALSE(output.has(Title));
+
+    // The desk is as it was, and the next document is the only one that comes out.
+    support::chord({VK_CONTROL, 'P'});
+    dialog(L"Drukuj");
+    typePage('O', L"1");
+    typePage('D', L"2");
+    support::typeKey(VK_RETURN);
+    EXPECT_EQ(printedPages(), "1 2");
 }
 
 TEST_F(PrintByKeys, EscapePrintsNothingAndGivesTheFocusBackToTheRows) {

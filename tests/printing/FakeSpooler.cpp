@@ -48,12 +48,16 @@ struct FakeSpooler::Calls {
     }
     static BOOL WINAPI openPrinter(LPWSTR name, HANDLE* printer, PRINTER_DEFAULTSW* defaults) {
         S_current->write("OpenPrinter(" + WideToUtf8(name) + (defaults != nullptr ? ",defaults)" : ")"));
-        *printer = reinterpret_cast<HANDLE>(ULONG_PTR{0x1234});
-        return S_current->printerOpens ? TRUE : FALSE;
+        if (!S_current->printerOpens) {
+            return FALSE;
+        }
+        ++S_current->openedPrinters;
+        *printer = S_current->lastPrinter();
+        return TRUE;
     }
     static BOOL WINAPI getJob(HANDLE printer, DWORD job, DWORD level, BYTE* record, DWORD size, DWORD* needed) {
         S_current->write("GetJob(" + std::to_string(job) + "," + std::to_string(level) +
-                         (printer == reinterpret_cast<HANDLE>(ULONG_PTR{0x1234}) ? ")" : ",a strange printer)"));
+                         (printer == S_current->lastPrinter() ? ")" : ",a strange printer)"));
         *needed = kRecordSize;
         if (record == nullptr) {
             S_current->lastError = S_current->sizeError;

@@ -23,6 +23,7 @@ public:
     /// What GetLastError answers to the library.
     DWORD lastError = 0;
     bool printerOpens = true;
+    std::size_t openedPrinters = 0; ///< each has a handle of its own
     /// Of the first GetJobW, which asks for the size, and of the second.
     BOOL sizeResult = FALSE;
     DWORD sizeError = ERROR_INSUFFICIENT_BUFFER;
@@ -44,6 +45,7 @@ public:
 private:
     struct Calls;
 
+    HANDLE lastPrinter() const { return reinterpret_cast<HANDLE>(static_cast<ULONG_PTR>(0x1000 + openedPrinters)); }
     void write(const std::string& call) { *calls += (calls->empty() ? "" : " ") + call; }
 
     static FakeSpooler* S_current;

@@ -53,6 +53,20 @@ TEST_F(PreviewHost, MayDestroyTheWindowWhileItDraws) {
     EXPECT_EQ(nullptr, preview.GetSafeHwnd());
 }
 
+TEST_F(PreviewHost, MayDestroyTheDialogWhileItDraws) {
+    document.onPrint = [this](CDC*, PrintInfo* state) {
+        if (state->CurrentPage() == 2) {
+            window.DestroyWindow();
+        }
+    };
+    update();
+    EXPECT_EQ("1 2 ", document.takeDrawn());
+    EXPECT_EQ(nullptr, preview.GetSafeHwnd());
+    preview.ChangePreviewAreaScale(0.1);
+    preview.Update(*device.dc());
+    EXPECT_EQ("", document.takeDrawn());
+}
+
 TEST_F(PreviewHost, MayDestroyTheWindowWhileItBegins) {
     document.onBegin = [this] { preview.DestroyWindow(); };
     update();
@@ -151,20 +165,25 @@ TEST_F(PreviewHost, NoBitmapIsLargerThanThePageAtAnyScale) {
     EXPECT_EQ("1 2 3 ", document.takeDrawn());
 }
 
-TEST_F(PreviewHost, AThousandUpdatesAndScalesLeaveNoHandleBehind) {
+TEST_F(PreviewHost, AThousandUpdatesAndScalesLeaveNothingBehind) {
     const auto work = [this](int times) {
         for (int time = 0; time < times; ++time) {
             preview.Update(*device.dc());
             preview.UpdateWindow();
-            preview.ChangePreviewAreaScale(time % 2 == 0 ? 0.4 : -0.4);
+            preview.ChangePreviewAreaScale(time % 2 == 0 ? -0.4 : 0.4);
             preview.UpdateWindow();
+            document.drawn.clear();
+            AfxGetThread()->OnIdle(0); // as the host's loop, which frees temporary objects
         }
         support::pumpUntilIdle();
     };
     work(10);
-    const std::size_t before = support::gdiHandleCount();
+    const support::Resources before = support::Resources::inUse();
     work(1000);
-    EXPECT_EQ(before, support::gdiHandleCount());
+    const support::Resources after = support::Resources::inUse();
+    EXPECT_EQ(before.gdiHandles, after.gdiHandles);
+    EXPECT_EQ(before.windows, after.windows);
+    EXPECT_LT(after.heapBytes, before.heapBytes + 100'000);
 }
 
 TEST_F(PreviewHost, AKeptPageCostsFourBytesAPixelOfThePrinter) {
