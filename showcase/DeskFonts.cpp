@@ -10,13 +10,18 @@ constexpr int HeaderStrutHeight = 20;
 
 } // namespace
 
-void createDeskFont(CFont& font, int height, LONG weight) {
+LOGFONTW deskFont(int height, LONG weight) {
     LOGFONTW description{};
     description.lfHeight = -scaled(height);
     description.lfWeight = weight;
     description.lfCharSet = DEFAULT_CHARSET;
     description.lfQuality = ANTIALIASED_QUALITY;
     wcscpy(description.lfFaceName, L"Tahoma");
+    return description;
+}
+
+void createDeskFont(CFont& font, int height, LONG weight) {
+    const LOGFONTW description = deskFont(height, weight);
     font.CreateFontIndirect(&description);
 }
 

@@ -9,7 +9,9 @@ namespace Desk {
 /// The height of the letters, at 96 pixels to the inch.
 inline constexpr int DeskTextHeight = 13;
 
-/// Makes a font in the desk's typeface; `height` at 96 pixels to the inch.
+/// The desk's typeface at the screen's scale; `height` at 96 pixels to the inch.
+LOGFONTW deskFont(int height, LONG weight);
+/// Makes a font of it.
 void createDeskFont(CFont& font, int height, LONG weight);
 
 /// The desk's typefaces at the screen's scale, and sizes that come from them.

@@ -45,6 +45,8 @@ struct StyleAspects {
     bool fill = false;
     bool font = false; ///< with the colour of the text
     bool opacity = false;
+
+    bool operator==(const StyleAspects&) const = default;
 };
 StyleAspects aspectsOf(ChartPart part);
 /// "Świece rosnące".
