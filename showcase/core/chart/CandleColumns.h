@@ -19,8 +19,8 @@ struct CandleColumn {
 };
 
 /// The columns of all visible candles, from left to right, all equally wide; bodies neither touch nor overlap unless a
-/// candle has less than two pixels. One pass over the visible candles. A candle that is seen only in part may have its
-/// column outside the plot, so that there may be one more than pixels.
+/// candle has less than two pixels. One pass over the visible candles. A candle that is cut by an edge
+/// may have its column just outside the plot, so that there may be two more than pixels.
 void candleColumns(const Candles& candles, const TimeScale& scale, std::vector<CandleColumn>& columns);
 
 /// The least low and the greatest high of the columns, with a margin of `share` of the difference on both sides.

@@ -16,7 +16,7 @@ struct DateMark {
 
 /// Marks of the visible candles at least `leastDistance` pixels from each other, of the finest division that usually
 /// allows it: "7 sty", "sty 2015" in the first month of a year, "lut", "2015". Where the series has gaps, so that two
-/// are nearer, the later one is left out. What is marked depends on the width of a candle, not on how it is panned.
+/// are nearer, the later one is left out, or the beginning of the series.
 std::vector<DateMark> dateGrid(const Candles& candles, const TimeScale& scale, int leastDistance);
 
 /// "7 stycznia 2015".
