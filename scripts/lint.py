@@ -11,10 +11,12 @@ import json
 import os
 import pathlib
 import shlex
+import shutil
 import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
+PLUGIN = ROOT / "scripts" / "lint_own_declarations.cpp"
 CROSS_COMPILER = "x86_64-w64-mingw32-g++-posix"
 
 
@@ -46,13 +48,28 @@ def dependencies(build):
     return headers
 
 
+def build_plugin(version):
+    """The library that keeps clang-tidy out of the system's headers, built for this clang-tidy."""
+    content = hashlib.sha256(version.encode() + PLUGIN.read_bytes()).hexdigest()
+    library = ROOT / "build" / f"{PLUGIN.stem}.{content}.so"
+    if not library.exists():
+        clang = pathlib.Path(shutil.which("clang-tidy")).resolve().parent.parent
+        unfinished = library.with_suffix(f".{os.getpid()}")
+        output_of("g++", "-std=c++17", "-shared", "-fPIC", "-fno-rtti", f"-isystem{clang / 'include'}", str(PLUGIN),
+                  "-o", str(unfinished))
+        unfinished.rename(library)
+    return library
+
+
 class Linter:
     def __init__(self, build):
         self.build = build
         self.passed = build / "lint"
         self.passed.mkdir(exist_ok=True)
         self.arguments = ["--target=x86_64-w64-mingw32", *(f"-isystem{folder}" for folder in include_folders())]
-        self.rules = output_of("clang-tidy", "--version") + (ROOT / ".clang-tidy").read_text() + repr(self.arguments)
+        version = output_of("clang-tidy", "--version")
+        self.plugin = build_plugin(version)
+        self.rules = version + (ROOT / ".clang-tidy").read_text() + self.plugin.name + repr(self.arguments)
         self.headers = dependencies(build)
 
     def key(self, entry):
@@ -69,6 +86,7 @@ class Linter:
             return None
         result = subprocess.run(
             ["clang-tidy", "-p", str(self.build), "--quiet",
+             f"--load={self.plugin}", "--checks=ortin-own-declarations",
              *(f"--extra-arg-before={argument}" for argument in self.arguments), entry["file"]],
             cwd=ROOT, capture_output=True, text=True)
         if result.returncode == 0:

@@ -53,6 +53,9 @@ END
             cat <<'END'
 clang-format clang-format
 clang-tidy clang-tidy
+g++ g++
+libclang-14-dev /usr/lib/llvm-14/include/clang-tidy/ClangTidyCheck.h
+llvm-14-dev /usr/lib/llvm-14/include/llvm/ADT/StringRef.h
 python3 python3
 shellcheck shellcheck
 END
