@@ -51,7 +51,7 @@ void DeskScrollBar::setState(const ScrollState& state) {
 int DeskScrollBar::trackLength() const {
     CRect client;
     GetClientRect(&client);
-    return client.Height();
+    return along(client.BottomRight());
 }
 
 ThumbSpan DeskScrollBar::thumb() const {
@@ -64,11 +64,15 @@ void DeskScrollBar::OnPaint() {
     CRect client;
     GetClientRect(&client);
     dc.FillSolidRect(&client, Colors::scrollTrack());
-    const CRect edge(client.left, client.top, client.left + 1, client.bottom);
+    const bool isVertical = m_direction == Direction::Vertical;
+    CRect edge = client;
+    (isVertical ? edge.right : edge.bottom) = 1;
     dc.FillSolidRect(&edge, Colors::line());
     const ThumbSpan span = thumb();
-    CRect rect(client.left + 1, span.begin, client.right, span.end);
-    rect.DeflateRect(scaled(ThumbInset), span.end > span.begin ? scaled(1) : 0);
+    CRect rect =
+        isVertical ? CRect(1, span.begin, client.right, span.end) : CRect(span.begin, 1, span.end, client.bottom);
+    const int inset = span.end > span.begin ? scaled(1) : 0;
+    rect.DeflateRect(isVertical ? scaled(ThumbInset) : inset, isVertical ? inset : scaled(ThumbInset));
     dc.FillSolidRect(&rect, m_hot || m_drag ? Colors::scrollThumbHot() : Colors::scrollThumb());
 }
 
@@ -86,12 +90,13 @@ void DeskScrollBar::OnLButtonDown(UINT, CPoint point) {
     if (span.begin == span.end)
         return;
     SetCapture();
-    if (point.y >= span.begin && point.y < span.end) {
-        m_drag = ThumbDrag{point.y - span.begin};
+    const int place = along(point);
+    if (place >= span.begin && place < span.end) {
+        m_drag = ThumbDrag{place - span.begin};
         Invalidate(FALSE);
         return;
     }
-    m_paging = Paging{point.y};
+    m_paging = Paging{place};
     SetTimer(PagingTimer, PagingDelay);
     turnPage();
 }
@@ -102,16 +107,17 @@ void DeskScrollBar::OnLButtonUp(UINT, CPoint) {
 }
 
 void DeskScrollBar::OnMouseMove(UINT, CPoint point) {
+    const int place = along(point);
     if (m_drag && onScrollTo)
-        onScrollTo(positionForThumb(m_state, trackLength(), scaled(LeastThumb), point.y - m_drag->grip));
+        onScrollTo(positionForThumb(m_state, trackLength(), scaled(LeastThumb), place - m_drag->grip));
     if (m_paging)
-        m_paging->target = point.y;
+        m_paging->target = place;
     if (!m_hot) {
         TRACKMOUSEEVENT track{sizeof(track), TME_LEAVE, m_hWnd, 0};
         ::TrackMouseEvent(&track);
     }
     const ThumbSpan span = thumb();
-    setHot(point.y >= span.begin && point.y < span.end);
+    setHot(place >= span.begin && place < span.end);
 }
 
 void DeskScrollBar::OnMouseLeave() {

@@ -9,10 +9,15 @@
 
 namespace Desk {
 
-/// A vertical scroll bar in the colours of the theme. It keeps no position of its own: it shows the state that it is
-/// given and tells what the user wants.
+/// A scroll bar in the colours of the theme, vertical unless it is told otherwise. It keeps no position of its own: it
+/// shows the state that it is given and tells what the user wants.
 class DeskScrollBar : public CWnd {
 public:
+    enum class Direction { Vertical, Horizontal };
+
+    explicit DeskScrollBar(Direction direction = Direction::Vertical) : m_direction(direction) {}
+
+    /// Across its direction.
     static int width();
 
     BOOL createIn(CWnd* parent, int id);
@@ -42,12 +47,15 @@ private:
         int target;
     };
 
+    /// How far along the track.
+    int along(CPoint point) const { return m_direction == Direction::Vertical ? point.y : point.x; }
     int trackLength() const;
     ThumbSpan thumb() const;
     void turnPage();
     void endGestures();
     void setHot(bool hot);
 
+    Direction m_direction;
     ScrollState m_state;
     std::optional<ThumbDrag> m_drag;
     std::optional<Paging> m_paging;

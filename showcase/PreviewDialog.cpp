@@ -13,6 +13,8 @@ constexpr int ZoomOutId = 101;
 constexpr int ZoomInId = 102;
 constexpr int FitWidthId = 103;
 constexpr int ShowId = 106;
+constexpr int DownBarId = 107;
+constexpr int AcrossBarId = 108;
 
 constexpr double ZoomStep = 0.1;
 
@@ -60,6 +62,12 @@ void PreviewDialog::createControls() {
     m_placeholder.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 10, 10), this, PagesId);
     m_pages.Init(&m_info, &m_printable);
     m_pages.Create(PagesId, this);
+    m_pages.onPainted = [this] { showScrollStates(); };
+    m_downBar.createIn(this, DownBarId);
+    m_downBar.onScrollTo = [this](int position) { m_pages.scrollTo(SB_VERT, position); };
+    m_acrossBar.createIn(this, AcrossBarId);
+    m_acrossBar.ShowWindow(SW_HIDE);
+    m_acrossBar.onScrollTo = [this](int position) { m_pages.scrollTo(SB_HORZ, position); };
 
     m_pageCount = countPages(m_printable, m_context);
     showRange({1, m_pageCount});
@@ -99,7 +107,19 @@ void PreviewDialog::placeControls(CSize client) {
     place(m_print, textWidth(L"Drukuj…"));
 
     const int pagesTop = top + rowHeight() + scaled(Margin) + (isComplaining() ? rowHeight() : 0);
-    m_pages.MoveWindow(0, pagesTop, client.cx, std::max(0, static_cast<int>(client.cy) - pagesTop));
+    placePages(CRect(0, pagesTop, client.cx, std::max<int>(pagesTop, client.cy)));
+}
+
+/// The lower bar takes room only where it is needed; the right one always, so that its coming does not narrow the
+/// pages.
+void PreviewDialog::placePages(const CRect& area) {
+    const int right = std::max<int>(area.left, area.right - DeskScrollBar::width());
+    const bool isAcross = m_pages.scrollState(SB_HORZ).extent > 0;
+    const int bottom = isAcross ? std::max<int>(area.top, area.bottom - DeskScrollBar::width()) : area.bottom;
+    m_acrossBar.ShowWindow(isAcross ? SW_SHOWNA : SW_HIDE);
+    m_acrossBar.MoveWindow(area.left, bottom, right - area.left, area.bottom - bottom);
+    m_downBar.MoveWindow(right, area.top, area.right - right, area.Height());
+    m_pages.MoveWindow(area.left, area.top, right - area.left, bottom - area.top);
 }
 
 CRect PreviewDialog::complaintArea() {
@@ -127,6 +147,16 @@ void PreviewDialog::showPages() {
     }
     if (m_context.PrinterDC())
         m_pages.Update(m_context.PrinterDC());
+}
+
+void PreviewDialog::showScrollStates() {
+    const ScrollState across = m_pages.scrollState(SB_HORZ);
+    m_downBar.setState(m_pages.scrollState(SB_VERT));
+    m_acrossBar.setState(across);
+    if ((across.extent > 0) != ((m_acrossBar.GetStyle() & WS_VISIBLE) != 0)) {
+        const CXTPClientRect client(this);
+        placeControls(client.Size());
+    }
 }
 
 void PreviewDialog::OnShowRange() {

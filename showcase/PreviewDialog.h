@@ -3,9 +3,10 @@
 #include <optional>
 
 #include <OrtinControls/PrintInfoEx.h>
-#include <OrtinControls/PrintPreviewWindow.h>
 
+#include "DeskScrollBar.h"
 #include "PageRangeDialog.h"
+#include "PreviewPages.h"
 #include "PrintRun.h"
 #include "Printers.h"
 
@@ -42,14 +43,10 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    /// The library's preview; its zoom is for who derives from it.
-    class Pages : public PrintPreviewWindow {
-    public:
-        void zoom(double delta) { ChangePreviewAreaScale(delta); }
-    };
-
     void showPages();
     bool takeRange();
+    void placePages(const CRect& area);
+    void showScrollStates();
 
     IPrintable& m_printable;
     PrintDialogContext m_context;
@@ -57,7 +54,9 @@ private:
     std::optional<PrintRange> m_range;
 
     CStatic m_placeholder; ///< until the pages take its place
-    Pages m_pages;
+    PreviewPages m_pages;
+    DeskScrollBar m_downBar;
+    DeskScrollBar m_acrossBar{DeskScrollBar::Direction::Horizontal}; ///< shown where the pages are too wide
     DeskButton m_zoomOut;
     DeskButton m_zoomIn;
     DeskButton m_fitWidth;

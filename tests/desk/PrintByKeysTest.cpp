@@ -1,5 +1,6 @@
 #include <OrtinFoundation/StringTools.h>
 
+#include <algorithm>
 #include <sstream>
 
 #include "../printing/PrinterOutput.h"
@@ -11,10 +12,14 @@
 namespace {
 
 const std::wstring Title = L"Notowania";
+constexpr int ZoomInId = 102;
+constexpr int FitWidthId = 103;
 constexpr int FromId = 104;
 constexpr int ToId = 105;
 constexpr int FirstPartId = 110;
 constexpr int PagesId = 100;
+constexpr int DownBarId = 107;
+constexpr int AcrossBarId = 108;
 constexpr int StatusPageId = 204;
 
 std::string instrumentsOf(int count) {
@@ -176,6 +181,60 @@ TEST_F(PrintByKeys, CtrlAndTheWheelChangeTheScaleOfThePreview) {
     EXPECT_TRUE(eventually([&] { return pixelsOf(pages) != before; }));
     support::typeKey(VK_ESCAPE);
     EXPECT_TRUE(eventually([&] { return !isOpen(L"Podgląd wydruku") && ::IsWindowEnabled(desk()); }));
+}
+
+TEST_F(PrintByKeys, TheBarsOfThePreviewMoveItsPagesUnderTheMouse) {
+    start(printed.arguments);
+    support::chord({VK_CONTROL, VK_SHIFT, 'P'});
+    const HWND preview = dialog(L"Podgląd wydruku");
+    const HWND pages = ::GetDlgItem(preview, PagesId);
+    settle();
+    EXPECT_FALSE(::IsWindowVisible(::GetDlgItem(preview, AcrossBarId))) << "the page is as wide as the window";
+    support::click(onScreen(::GetDlgItem(preview, ZoomInId), 5, 5));
+    EXPECT_TRUE(eventually([&] { return ::IsWindowVisible(::GetDlgItem(preview, AcrossBarId)); }));
+    for (const int id : {DownBarId, AcrossBarId}) {
+        const HWND bar = ::GetDlgItem(preview, id);
+        support::turnWheel(onScreen(pages, scaled(200), scaled(200)), WHEEL_DELTA); // hides the buttons
+        settle();
+        const support::Pixels before = pixelsOf(pages);
+        const support::Pixels track = pixelsOf(bar);
+        const POINT start = onScreen(bar, scaled(7), scaled(7));
+        const POINT end = onScreen(bar, track.width() - scaled(7), track.height() - scaled(7));
+        support::drag(start, end);
+        EXPECT_TRUE(eventually([&] { return pixelsOf(pages) != before && pixelsOf(bar) != track; })) << id;
+        settle();
+        support::drag(end, start);
+        EXPECT_TRUE(eventually([&] { return pixelsOf(pages) == before; })) << id;
+    }
+    support::click(onScreen(::GetDlgItem(preview, FitWidthId), 5, 5));
+    EXPECT_TRUE(eventually([&] { return !::IsWindowVisible(::GetDlgItem(preview, AcrossBarId)); }));
+}
+
+TEST_F(PrintByKeys, NothingBesideThePagesOfThePreviewIsLightInTheBlackTheme) {
+    start({L"--theme", L"black"});
+    support::chord({VK_CONTROL, VK_SHIFT, 'P'});
+    const HWND preview = dialog(L"Podgląd wydruku");
+    support::click(onScreen(::GetDlgItem(preview, ZoomInId), 5, 5));
+    support::moveMouse(onScreen(preview, scaled(20), scaled(40)));
+    settle();
+    const auto brightest = [this](HWND window) {
+        const support::Pixels pixels = pixelsOf(window);
+        int most = 0;
+        for (int y = 0; y < pixels.height(); ++y)
+            for (int x = 0; x < pixels.width(); ++x)
+                most = std::max<int>(most, GetGValue(pixels.at(x, y)));
+        return most;
+    };
+    for (const int id : {DownBarId, AcrossBarId})
+        EXPECT_LT(brightest(::GetDlgItem(preview, id)), 0x90) << id;
+    const HWND pages = ::GetDlgItem(preview, PagesId);
+    RECT whole{};
+    RECT client{};
+    ::GetWindowRect(pages, &whole);
+    ::GetClientRect(pages, &client);
+    EXPECT_NE(::GetWindowLongW(pages, GWL_STYLE) & (WS_VSCROLL | WS_HSCROLL), 0) << "they scroll";
+    EXPECT_EQ(client.right, whole.right - whole.left) << "and yet have no bar of the system";
+    EXPECT_EQ(client.bottom, whole.bottom - whole.top);
 }
 
 TEST_F(PrintByKeys, ABadRangeInThePreviewPrintsNothingAndKeepsWhatWasTyped) {
