@@ -58,7 +58,7 @@ VisiblePages visiblePages(int pageHeight, int pageCount, int clientHeight, int p
         if (visible.first < 0 && bottom >= viewTop) {
             visible.first = place;
         }
-        if (top > viewBottom) {
+        if (top > viewBottom) { // at the first place too: a view lower than the margin above the pages shows none
             visible.last = place - 1;
             return visible;
         }

@@ -96,7 +96,6 @@ std::shared_ptr<CBitmap> PrintPreviewWindow::SetupPageBitmap(int page, CDC* dc, 
     if (m_pageRect.IsRectEmpty() || !bitmap->CreateCompatibleBitmap(dc, m_pageRect.Width(), m_pageRect.Height())) {
         return nullptr;
     }
-    const unsigned int update = m_updates;
     {
         // Also of the selection: a bitmap that is still selected when a printable throws could not be deleted.
         const SavedState state(*memoryDC);
@@ -104,12 +103,11 @@ std::shared_ptr<CBitmap> PrintPreviewWindow::SetupPageBitmap(int page, CDC* dc, 
             return nullptr;
         }
         DrawPageScene(memoryDC, m_pageRect);
+        // Kept whatever comes: a page whose drawing throws would throw again at each paint.
+        m_pageBitmaps[page] = bitmap;
         m_printable->OnPrint(memoryDC, m_printInfo);
     }
     memoryDC->SelectObject(bitmap.get());
-    if (m_updates == update) {
-        m_pageBitmaps[page] = bitmap;
-    }
     return bitmap;
 }
 

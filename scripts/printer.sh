@@ -40,6 +40,10 @@ mkdir -p "$work"/{etc/ppd,bin/backend,spool/tmp,cache,state}
 for part in /usr/lib/cups/*; do
     [ "$(basename "$part")" = backend ] || ln -s "$part" "$work/bin"
 done
+# quoted TEXT: as a word of any shell.
+quoted() {
+    printf "'%s'" "${1//\'/\'\\\'\'}"
+}
 # Arguments of a backend: job, user, title, copies, options, file. The name of the text comes last, so that who waits for
 # it finds all of it.
 cat >"$work/bin/backend/pdffile" <<END
@@ -47,12 +51,13 @@ cat >"$work/bin/backend/pdffile" <<END
 [ \$# -gt 0 ] || { echo 'direct pdffile "Unknown" "PDF files"'; exit 0; }
 umask 022
 name=\$(printf '%s' "\$3" | tr '/' '_')
+printed=$(quoted "$printed")
 part='$work/spool/tmp/part'
 cat "\${6:--}" >"\$part.ps" && [ -s "\$part.ps" ] &&
     gs -q -dNOPAUSE -dBATCH -dSAFER -sDEVICE=pdfwrite "-sOutputFile=\$part.pdf" "\$part.ps" >&2 &&
     pdftotext -layout "\$part.pdf" "\$part.txt" &&
-    mv "\$part.pdf" '$printed'/"\$name.pdf" &&
-    mv "\$part.txt" '$printed'/"\$name.txt"
+    mv "\$part.pdf" "\$printed/\$name.pdf" &&
+    mv "\$part.txt" "\$printed/\$name.txt"
 END
 # Only the spooler's own user may run it, and so it runs as that user.
 chmod 700 "$work/bin/backend/pdffile"

@@ -6,6 +6,8 @@
 
 #include <OrtinControls/ITableHandler.h>
 
+#include "../graphics/Rounding.h"
+
 void TableList::noteMovedRows() {
     m_scrollDirty = true;
     requestFullRedraw();
@@ -74,7 +76,9 @@ std::vector<int> TableList::pagesOfRows(int pageHeight, Pagination::RowRange ran
 }
 
 Pagination::VisiblePages TableList::pagesOfVisibleRows(int pageHeight) const {
-    return Pagination::ofVisibleRows(m_rows.rows(), pageHeight, clientHeight(), effectiveScrollPos());
+    // While the content runs the bar stands at 0; from its end on it repeats in view, which a run of rows cannot.
+    const int scrollPosition = autoscrollIsOn() ? truncateToInt(m_autoscrollPos) : effectiveScrollPos();
+    return Pagination::ofVisibleRows(m_rows.rows(), pageHeight, clientHeight(), scrollPosition);
 }
 
 void TableList::askHeight(int row) {

@@ -135,11 +135,28 @@ TEST_F(PreviewHost, MayThrowWhileItDraws) {
         EXPECT_THROW(preview.Draw(&dc), std::runtime_error);
         EXPECT_FALSE(S_deletedWhileSelected) << "the system would keep it";
     }
-    EXPECT_EQ(before + 1, support::gdiHandleCount()) << "the first page";
+    EXPECT_EQ(before + 2, support::gdiHandleCount()) << "the first page and what there is of the second";
+}
+
+TEST_F(PreviewHost, ThatThrowsWhileItDrawsIsAskedForThatPageAgainByTheNextUpdateOnly) {
+    document.onPrint = [](CDC*, PrintInfo* state) {
+        if (state->CurrentPage() == 1) {
+            throw std::runtime_error("no picture");
+        }
+    };
+    preview.Update(*device.dc());
+    CClientDC dc(&preview);
+    EXPECT_THROW(preview.Draw(&dc), std::runtime_error);
+    EXPECT_EQ("1 ", document.takeDrawn());
+    for (int paint = 0; paint < 2; ++paint) {
+        EXPECT_NO_THROW(preview.Draw(&dc)) << "as under a message box that is taken away";
+    }
+    EXPECT_EQ("2 ", document.takeDrawn());
+    hideButtons();
+    EXPECT_EQ(ColouredPages::colourOf(1), pixels().at(client().cx / 2, 100)) << "what was drawn of it";
     document.onPrint = nullptr;
-    document.drawn.clear();
-    pixels();
-    EXPECT_EQ("2 ", document.takeDrawn()) << "what failed is drawn anew";
+    update();
+    EXPECT_EQ("1 2 ", document.takeDrawn());
 }
 
 TEST_F(PreviewHost, WithoutMemoryForAPageTriesAgainAtTheNextPaint) {

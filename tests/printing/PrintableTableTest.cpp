@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "support/Capture.h"
+#include "support/ImportPatch.h"
 #include "table/Printers.h"
 
 namespace {
@@ -33,6 +34,13 @@ struct Selection {
     CPoint end;
     bool offered;
 };
+
+LONGLONG S_ticks;
+
+BOOL WINAPI testCounter(LARGE_INTEGER* counter) {
+    counter->QuadPart = S_ticks;
+    return TRUE;
+}
 
 constexpr int kMost = std::numeric_limits<int>::max();
 
@@ -215,6 +223,35 @@ TEST_F(PrintableTable, DividesTheVisibleRowsToo) {
     addRows(20);
     EXPECT_EQ(2, begin(device.dc(), PrintOptionCustom));
     EXPECT_EQ("0-0 1-4", rowsOfPages(device.dc()));
+}
+
+TEST_F(PrintableTable, PrintsTheRowsInViewAlsoWhileTheContentRuns) {
+    SheetDevice device(kFiveRows);
+    sizeBody(50);
+    addRows(20);
+    const support::ImportPatch clock(::GetModuleHandleW(L"OrtinControls.dll"), "KERNEL32.dll",
+                                     "QueryPerformanceCounter", testCounter);
+    LARGE_INTEGER frequency{};
+    ::QueryPerformanceFrequency(&frequency);
+    handler.autoscroll = true;
+    const auto runFor = [&](int seconds) { // 20 pixels in each
+        S_ticks += seconds * frequency.QuadPart;
+        ::InvalidateRect(::GetDlgItem(table, 11112), nullptr, FALSE);
+        support::pumpUntilIdle();
+    };
+    runFor(0);
+    EXPECT_EQ(1, begin(device.dc(), PrintOptionCustom));
+    EXPECT_EQ("0-2", rowsOfPages(device.dc()));
+    runFor(3);
+    EXPECT_EQ(1, begin(device.dc(), PrintOptionCustom));
+    EXPECT_EQ("3-5", rowsOfPages(device.dc()));
+    runFor(16);
+    EXPECT_EQ(1, begin(device.dc(), PrintOptionCustom));
+    EXPECT_EQ("19-19", rowsOfPages(device.dc())) << "and not those that begin anew below it";
+    handler.autoscroll = false;
+    runFor(0);
+    EXPECT_EQ(1, begin(device.dc(), PrintOptionCustom));
+    EXPECT_EQ("17-19", rowsOfPages(device.dc())) << "the bar ends above the last row";
 }
 
 TEST_F(PrintableTable, HasNoPagesForChoicesOfOthers) {

@@ -142,5 +142,14 @@ for code in 0 7 255; do
     expect "exit code $code of a Windows program is handed on" "$code" "" 0
 done
 
+machine_without
+on_machine "$root/scripts/printer.sh" "$work/trader's pages" lp -t 'Strony "A"' "$root/README.md"
+expect "a document is printed into a folder with an apostrophe" 0 "" 0
+for kind in pdf txt; do
+    problem=
+    [ -s "$work/trader's pages/Strony \"A\".$kind" ] || problem="there is $(ls "$work/trader's pages")"
+    report "the $kind of the document is there" "$problem"
+done
+
 echo "$((cases - failures)) passed, $failures failed"
 [ "$failures" = 0 ]
