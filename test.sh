@@ -9,7 +9,7 @@ need_locale
 build core-sanitize
 build windows
 
-# All tests share one display, whatever display the user has: they move the mouse and take the focus.
+# The tests have a display of their own, whatever display the user has, and those that move the mouse a second one.
 wine_folder=$root/build/windows/wine
 hold_virtual_display "$wine_folder"
 for dpi in 96 144; do

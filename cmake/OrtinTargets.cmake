@@ -28,16 +28,18 @@ function(ortin_need_googletest)
     endif()
 endfunction()
 
-# ortin_test(NAME SOURCES a.cpp... LIBRARIES x... [DPI144] [DISPLAY] [PRINTER|NO_PRINTER]): one program and one CTest
-# entry, or two.
+# ortin_test(NAME SOURCES a.cpp... LIBRARIES x... [DPI144 [ONCE pattern...]] [DISPLAY] [PRINTER|NO_PRINTER]): one program
+# and one CTest entry, or two.
 #   DPI144   the program runs again, as NAME@144 with the label dpi144, where a logical inch has 144 pixels
-#   DISPLAY  the program moves the real mouse, types or needs the focus: it runs alone, so that nobody's window covers
-#            its own
-#   PRINTER  the program prints: a spooler of its own runs with it, and it runs alone, because all programs of a prefix
-#            share one list of printers
-#   NO_PRINTER  the program wants a system that has none: its prefix is its own, and no spooler is found from there
+#   ONCE     but not these of its tests: thousands of rounds over what no resolution changes
+#   DISPLAY  the program moves the real mouse, types or needs the focus: it is alone on a second virtual display with
+#            prefixes of its own, so that nobody's window covers its own
+#   PRINTER  the program prints: a spooler of its own runs with it, and it runs there, too, because all programs of a
+#            prefix share one list of printers
+#   NO_PRINTER  the program wants a system that has none: display and prefix are its own, and no spooler is found from
+#               there
 function(ortin_test name)
-    cmake_parse_arguments(arg "DPI144;DISPLAY;PRINTER;NO_PRINTER" "" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(arg "DPI144;DISPLAY;PRINTER;NO_PRINTER" "" "SOURCES;LIBRARIES;ONCE" ${ARGN})
     ortin_need_googletest()
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE ortin_warnings ortin_platform_options ${arg_LIBRARIES} gtest gmock)
@@ -49,7 +51,12 @@ function(ortin_test name)
         endif()
         add_test(NAME ${name} COMMAND ${runner} 96 $<TARGET_FILE:${name}>)
         if(arg_DPI144)
-            add_test(NAME ${name}@144 COMMAND ${runner} 144 $<TARGET_FILE:${name}>)
+            set(without_once "")
+            if(arg_ONCE)
+                list(JOIN arg_ONCE ":" once)
+                set(without_once --gtest_filter=-${once})
+            endif()
+            add_test(NAME ${name}@144 COMMAND ${runner} 144 $<TARGET_FILE:${name}> ${without_once})
             set_tests_properties(${name}@144 PROPERTIES LABELS dpi144)
             list(APPEND entries ${name}@144)
         endif()
@@ -60,9 +67,10 @@ function(ortin_test name)
     if(arg_NO_PRINTER)
         set(apart ${CMAKE_BINARY_DIR}/without-printer)
         set_tests_properties(${entries} PROPERTIES
-            ENVIRONMENT "ORTIN_WINE_FOLDER=${apart}/wine;CUPS_SERVER=${apart}/no-spooler")
-    endif()
-    if(arg_DISPLAY OR arg_PRINTER)
-        set_tests_properties(${entries} PROPERTIES RUN_SERIAL TRUE)
+            ENVIRONMENT "DISPLAY=;ORTIN_WINE_FOLDER=${apart}/wine;CUPS_SERVER=${apart}/no-spooler")
+    elseif(arg_DISPLAY OR arg_PRINTER)
+        # First, as they are the ones that wait for each other.
+        set_tests_properties(${entries} PROPERTIES
+            RESOURCE_LOCK display COST 1000 ENVIRONMENT "DISPLAY=;ORTIN_WINE_FOLDER=${CMAKE_BINARY_DIR}/wine-alone")
     endif()
 endfunction()

@@ -1,4 +1,4 @@
-// What nobody would write, 500,000 times.
+// What nobody would write, again and again.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -7,6 +7,17 @@
 #include "Descriptions.h"
 #include "FontForm.h"
 #include "RandomDocuments.h"
+
+namespace {
+
+// Under Wine only to see that the compiler for Windows understood the same: a round takes longest there.
+#ifdef _WIN32
+constexpr int kRounds = 50'000;
+#else
+constexpr int kRounds = 500'000;
+#endif
+
+} // namespace
 
 /// Nothing but the promised exceptions, with their words.
 TEST(RandomDocument, GivesNothingButThePromisedOutcomes) {
@@ -22,7 +33,7 @@ TEST(RandomDocument, GivesNothingButThePromisedOutcomes) {
             return "out of range";
         }
     };
-    for (int round = 0; round < 500000; ++round) {
+    for (int round = 0; round < kRounds; ++round) {
         const boost::json::value document = documents.next();
         BrushDescription brush{};
         ++brushes[outcomeOf([&] { return BrushForm::fromJson(document, brush) ? "true" : "false"; })];
@@ -46,14 +57,14 @@ TEST(RandomDocument, GivesNothingButThePromisedOutcomes) {
     }
     EXPECT_EQ(5U, brushes.size()) << "each outcome was there";
     EXPECT_EQ(2U, fonts.size());
-    EXPECT_GT(fonts["read"], 100000);
-    EXPECT_GT(fonts["not an int64"], 10000);
+    EXPECT_GT(fonts["read"], kRounds / 5);
+    EXPECT_GT(fonts["not an int64"], kRounds / 50);
 }
 
 TEST(RandomText, IsReadAsAFontOrRefusedWithoutHarm) {
     RandomDocuments documents(13);
     int complete = 0;
-    for (int round = 0; round < 500000; ++round) {
+    for (int round = 0; round < kRounds; ++round) {
         FontDescription font{};
         const std::string text = documents.nextText();
         if (FontForm::fromText(text, font)) {
@@ -63,5 +74,5 @@ TEST(RandomText, IsReadAsAFontOrRefusedWithoutHarm) {
             ASSERT_EQ(font, again) << text;
         }
     }
-    EXPECT_GT(complete, 1000);
+    EXPECT_GT(complete, kRounds / 500);
 }
