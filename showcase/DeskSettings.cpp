@@ -1,9 +1,13 @@
 #include "DeskSettings.h"
 
 #include <OrtinFoundation/Settings.h>
+#include <OrtinFoundation/StringTools.h>
 #include <shlobj.h>
 
+#include <algorithm>
 #include <filesystem>
+
+#include "chart/ChartSettings.h"
 
 namespace Desk {
 
@@ -12,6 +16,7 @@ namespace {
 constexpr char ColumnsNode[] = "columns";
 constexpr char LockedNode[] = "locked-columns";
 constexpr char ThemeNode[] = "theme";
+constexpr char ChartNode[] = "chart";
 const std::string BlackTheme = "black";
 const std::string WhiteTheme = "white";
 
@@ -43,6 +48,17 @@ void replaceColumns(Settings& node, const ColumnLayout& columns) {
         node[std::to_string(position)] = arrangedColumnText(all[position]);
 }
 
+std::wstring remarkOn(const std::wstring& file, const std::vector<std::string>& unread) {
+    constexpr std::size_t MostNamed = 3;
+    const std::size_t named = std::min(unread.size(), MostNamed);
+    std::wstring text = file + L": nie odczytano ustawień wykresu";
+    for (std::size_t each = 0; each < named; ++each)
+        text += (each == 0 ? L": " : L", ") + OrtinTools::String::Utf8ToWide(unread[each]);
+    if (unread.size() > named)
+        text += L" i jeszcze " + std::to_wstring(unread.size() - named);
+    return text + L"; zamiast nich są domyślne";
+}
+
 } // namespace
 
 std::wstring defaultSettingsFile() {
@@ -54,7 +70,7 @@ std::wstring defaultSettingsFile() {
     return own + L"\\settings.txt";
 }
 
-ParameterStatus loadSettings(const std::wstring& file, DeskSettings& settings) {
+ParameterStatus loadSettings(const std::wstring& file, DeskSettings& settings, std::wstring* remark) {
     const std::filesystem::path folder = std::filesystem::path(file).parent_path();
     std::error_code error;
     if (!folder.empty() && !std::filesystem::is_directory(folder, error))
@@ -73,6 +89,9 @@ ParameterStatus loadSettings(const std::wstring& file, DeskSettings& settings) {
         settings.theme = DeskTheme::Black;
     else if (theme == WhiteTheme)
         settings.theme = DeskTheme::White;
+    const std::vector<std::string> unread = readChart(kept[ChartNode], settings.chart);
+    if (remark && !unread.empty())
+        *remark = remarkOn(file, unread);
     return status;
 }
 
@@ -83,6 +102,7 @@ ParameterStatus saveSettings(const std::wstring& file, const DeskSettings& setti
     replaceColumns(tree[ColumnsNode], settings.columns);
     tree[LockedNode].SetBool(settings.lockedColumns);
     tree[ThemeNode] = settings.theme == DeskTheme::Black ? BlackTheme : WhiteTheme;
+    writeChart(tree[ChartNode], settings.chart);
     return tree.SaveToFile(file);
 }
 

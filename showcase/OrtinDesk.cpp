@@ -65,19 +65,27 @@ std::vector<Instrument> loadInstruments(const DeskOptions& options) {
     }
 }
 
+void tellRemark(const std::wstring& remark) {
+    if (!remark.empty())
+        printError(remark);
+}
+
 /// Where settings are kept, and what is kept there.
 void takeSettings(const DeskOptions& options, Start& start) {
+    std::wstring remark;
     if (options.settings) {
         start.settingsFile = *options.settings;
-        const ParameterStatus status = loadSettings(start.settingsFile, start.settings);
+        const ParameterStatus status = loadSettings(start.settingsFile, start.settings, &remark);
         if (!status.IsSuccess())
             throw Refusal{status.GetMessageText(), BadInputExitCode};
+        tellRemark(remark);
         return;
     }
     const std::wstring own = options.shots ? std::wstring() : defaultSettingsFile();
     if (own.empty())
         return;
-    const ParameterStatus status = loadSettings(own, start.settings);
+    const ParameterStatus status = loadSettings(own, start.settings, &remark);
+    tellRemark(remark);
     // A file of our own that has become unreadable must neither keep the user out nor be lost.
     if (status.IsSuccess())
         start.settingsFile = own;

@@ -33,7 +33,7 @@ struct ChartStyle {
     GdiPenWrapper pen; ///< its style is one of PS_SOLID to PS_DASHDOTDOT
     COLORREF fill = 0;
     COLORREF text = 0;
-    GdiFontWrapper font;
+    GdiFontWrapper font{};
     double opacity = 1; ///< 0 to 1
 };
 

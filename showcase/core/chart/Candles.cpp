@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <optional>
 
 #include "core/CsvTable.h"
 #include "core/InputFile.h"
+#include "core/chart/IsoDate.h"
 
 namespace Desk {
 
@@ -25,30 +25,6 @@ constexpr std::array PriceFields{
 };
 constexpr std::size_t High = 1;
 constexpr std::size_t Low = 2;
-
-std::optional<int> parseDigits(std::string_view digits) {
-    int value = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-    if (error != std::errc() || end != digits.data() + digits.size() || digits.front() == '-')
-        return std::nullopt;
-    return value;
-}
-
-/// "2015-01-02" and nothing else.
-std::optional<std::chrono::sys_days> parseDate(std::string_view text) {
-    if (text.size() != 10 || text[4] != '-' || text[7] != '-')
-        return std::nullopt;
-    const std::optional<int> year = parseDigits(text.substr(0, 4));
-    const std::optional<int> month = parseDigits(text.substr(5, 2));
-    const std::optional<int> day = parseDigits(text.substr(8, 2));
-    if (!year || !month || !day)
-        return std::nullopt;
-    const std::chrono::year_month_day date(std::chrono::year(*year), std::chrono::month(static_cast<unsigned>(*month)),
-                                           std::chrono::day(static_cast<unsigned>(*day)));
-    if (!date.ok())
-        return std::nullopt;
-    return date;
-}
 
 /// Turns rows into candles, once the header has told where the columns stand.
 class CandleParser {
@@ -86,7 +62,7 @@ private:
     }
 
     std::chrono::sys_days parseDay(const Candles& before) const {
-        const std::optional<std::chrono::sys_days> date = parseDate(m_table.text(m_datePlace));
+        const std::optional<std::chrono::sys_days> date = parseIsoDate(m_table.text(m_datePlace));
         if (!date)
             m_table.refuse(m_datePlace, m_table.quoted(m_datePlace) + " nie jest datą",
                            "wpisz dzień w postaci 2015-01-02");
