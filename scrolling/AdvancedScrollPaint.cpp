@@ -5,21 +5,20 @@
 #include <OrtinControls/SystemColors.h>
 #include <XTToolkitPro.h>
 
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+#include <vector>
+
 #include "AdvancedScrollState.h"
 
 namespace {
 
-/// The bar is drawn so many times larger and brought down to its size.
-constexpr int kScale = 4;
-/// Finer pixels left out at the top and the left when it is.
+constexpr int kFiner = BarPicture::kFiner;
+/// Finer pixels left out at the top and the left when the picture is brought down.
 constexpr int kCut = 2;
 
 enum Role { Idle = 2, GripLine = 3, Background = 4, Hover = 5, Pressed = 6 };
-
-Gdiplus::Color themeColor(Role role) {
-    const COLORREF color = SystemColors::GetThemeColor(static_cast<EThemeColorType>(role));
-    return {GetRValue(color), GetGValue(color), GetBValue(color)};
-}
 
 Role thumbRole(const AdvancedScrollState::Gesture& gesture) {
     if (gesture.pressed) {
@@ -28,35 +27,62 @@ Role thumbRole(const AdvancedScrollState::Gesture& gesture) {
     return gesture.hover ? Hover : Idle;
 }
 
-void usePlainModes(Gdiplus::Graphics& graphics) {
-    graphics.SetSmoothingMode(Gdiplus::SmoothingModeDefault);
-    graphics.SetInterpolationMode(Gdiplus::InterpolationModeNearestNeighbor);
-}
-
-void fill(Gdiplus::Graphics& graphics, const BarRect& rect, Role role) {
-    const Gdiplus::SolidBrush brush(themeColor(role));
-    graphics.FillRectangle(&brush, kScale * rect.left, kScale * rect.top, kScale * rect.width(),
-                           kScale * rect.height());
-}
-
-void drawGrip(Gdiplus::Graphics& graphics, const BarRect& thumb) {
-    const int unit = XTPDpiHelper().ScaleX(1, 96);
-    const Gdiplus::SolidBrush brush(themeColor(GripLine));
-    const Gdiplus::Pen pen(&brush, static_cast<Gdiplus::REAL>(kScale * unit));
-    const Grip grip = gripOf(thumb, unit);
-    for (const int x : grip.x) {
-        graphics.DrawLine(&pen, kScale * x, kScale * grip.top, kScale * x, kScale * grip.bottom);
+Role roleOf(BarPicture::Part part, const AdvancedScrollState::Gesture& gesture) {
+    switch (part) {
+    case BarPicture::Part::Background:
+        return Background;
+    case BarPicture::Part::Grip:
+        return GripLine;
+    default:
+        return thumbRole(gesture);
     }
 }
 
-void drawBar(Gdiplus::Graphics& graphics, const BarLayout& layout, Role thumb) {
-    usePlainModes(graphics);
-    // All of it is opaque: what lies below is not read and mixed in, which would take a third of the paint.
-    graphics.SetCompositingMode(Gdiplus::CompositingModeSourceCopy);
-    fill(graphics, layout.client, Background);
-    fill(graphics, layout.thumb, thumb);
-    if (hasGrip(layout.thumb)) {
-        drawGrip(graphics, layout.thumb);
+/// Opaque colours, row by row.
+using Colors = std::vector<std::uint32_t>;
+
+/// Shares the colours.
+Gdiplus::Bitmap bitmapOf(Colors& colors, BarSize size) {
+    const int rowBytes = size.width * static_cast<int>(sizeof(Colors::value_type));
+    return {size.width, size.height, rowBytes, PixelFormat32bppRGB, reinterpret_cast<BYTE*>(colors.data())};
+}
+
+/// Brings a finer picture down to `size` by the nearest pixel. False without memory for it.
+bool bringDown(Colors& finer, Colors& colors, BarSize size) {
+    const BarSize finerSize{kFiner * size.width, kFiner * size.height};
+    Gdiplus::Bitmap from = bitmapOf(finer, finerSize);
+    Gdiplus::Bitmap to = bitmapOf(colors, size);
+    Gdiplus::Graphics graphics(&to);
+    graphics.SetSmoothingMode(Gdiplus::SmoothingModeDefault);
+    graphics.SetInterpolationMode(Gdiplus::InterpolationModeNearestNeighbor);
+    return graphics.DrawImage(&from, Gdiplus::Rect(0, 0, size.width, size.height), kCut, kCut, finerSize.width - kCut,
+                              finerSize.height - kCut, Gdiplus::UnitPixel) == Gdiplus::Ok;
+}
+
+enum class Axis { Columns, Rows };
+
+/// Which finer pixels GDI+ takes along one axis, asked with a ruler whose colours are numbers; empty where it refuses.
+/// So the finer picture, which takes milliseconds to fill and to bring down, is never needed.
+std::vector<int> samplesAlong(Axis axis, int length) {
+    const BarSize size = axis == Axis::Columns ? BarSize{length, 1} : BarSize{1, length};
+    Colors ruler(static_cast<std::size_t>(kFiner) * kFiner * length);
+    const std::size_t finerWidth = static_cast<std::size_t>(kFiner) * size.width;
+    for (std::size_t index = 0; index < ruler.size(); ++index) {
+        ruler[index] = static_cast<std::uint32_t>(axis == Axis::Columns ? index % finerWidth : index / finerWidth);
+    }
+    Colors taken(static_cast<std::size_t>(length));
+    std::vector<int> samples;
+    if (bringDown(ruler, taken, size)) {
+        constexpr std::uint32_t kWithoutAlpha = 0xFFFFFF;
+        std::transform(taken.begin(), taken.end(), std::back_inserter(samples),
+                       [](std::uint32_t color) { return static_cast<int>(color & kWithoutAlpha); });
+    }
+    return samples;
+}
+
+void keepSamples(std::vector<int>& samples, Axis axis, int length) {
+    if (samples.size() != static_cast<std::size_t>(length)) {
+        samples = samplesAlong(axis, length);
     }
 }
 
@@ -66,14 +92,17 @@ void AdvancedScroll::OnPaint() {
     CPaintDC dc(this);
     UpdateRects();
     const BarLayout& layout = m_state->layout;
-    const int width = layout.client.width();
-    const int height = layout.client.height();
-    // A picture that cannot be made leaves the bar as it is: GDI+ carries the failure through all that follows.
-    Gdiplus::Bitmap picture(kScale * width, kScale * height, PixelFormat32bppRGB);
-    Gdiplus::Graphics onPicture(&picture);
-    drawBar(onPicture, layout, thumbRole(m_state->gesture));
-    Gdiplus::Graphics onScreen(dc.GetSafeHdc());
-    usePlainModes(onScreen);
-    onScreen.DrawImage(&picture, Gdiplus::Rect(0, 0, width, height), kCut, kCut, kScale * width - kCut,
-                       kScale * height - kCut, Gdiplus::UnitPixel);
+    BarPicture::Samples& samples = m_state->samples;
+    keepSamples(samples.columns, Axis::Columns, layout.client.width());
+    keepSamples(samples.rows, Axis::Rows, layout.client.height());
+    const BarPicture picture = BarPicture::of(layout, samples, XTPDpiHelper().ScaleX(1, 96));
+    for (const BarPicture::Patch& patch : picture.patches) {
+        const CRect rect(patch.rect.left, patch.rect.top, patch.rect.right, patch.rect.bottom);
+        if (!rect.IsRectEmpty()) {
+            const Role role = roleOf(patch.part, m_state->gesture);
+            dc.FillSolidRect(rect, SystemColors::GetThemeColor(static_cast<EThemeColorType>(role)));
+            // Nothing is painted twice, so that nothing flickers.
+            dc.ExcludeClipRect(rect);
+        }
+    }
 }

@@ -4,6 +4,7 @@
 
 #include "BarDrag.h"
 #include "BarLayout.h"
+#include "BarPicture.h"
 #include "RangeWindow.h"
 
 /// What a scroll and zoom bar holds.
@@ -11,6 +12,8 @@ struct AdvancedScrollState {
     RangeWindow window;
     /// As of the last paint, drag step or `SetCurrent`.
     BarLayout layout;
+    /// For the size of the last paint.
+    BarPicture::Samples samples;
 
     /// What is dragged, and what decides the cursor.
     struct Gesture {

@@ -22,47 +22,43 @@ constexpr Colours kWhite{0xf3eded, 0xdaac8d, 0xc48962, 0x9a572a, 0xffffff};
 constexpr Colours kBlack{0x191919, 0x464646, 0x6e523d, 0xa46f48, 0x191919};
 constexpr Colours kUnknown{0xff00ff, 0xff00ff, 0xff00ff, 0xff00ff, 0xff00ff};
 
-constexpr int kFiner = 4;
-
-/// The bar is drawn four times as large; of each four finer pixels one is taken. The first two are left out, so that it
-/// is the third of four at the beginning, and the first at the end.
-int finerOf(int pixel, int extent) {
-    return 2 + pixel * (kFiner * extent - 2) / extent;
+Gdiplus::Color opaque(COLORREF colour) {
+    return {GetRValue(colour), GetGValue(colour), GetBValue(colour)};
 }
 
-bool covers(int first, int end, int finer) {
-    return finer >= kFiner * first && finer < kFiner * end;
-}
-
-/// What the bar shows.
+/// What the bar shows, the long way: drawn four times as large and brought down by GDI+.
 support::Pixels expected(int width, int height, double start, double end, COLORREF thumbColour,
                          const Colours& colours) {
+    constexpr int kFiner = 4;
+    constexpr int kCut = 2;
     ReferenceBar bar(width, height);
     bar.set(start, end);
     const ReferenceBar::Rect& thumb = bar.thumb;
-    const int unit = XTPDpiHelper().ScaleX(1, 96);
-    const int middle = (thumb.left + thumb.right) / 2;
-    const int gripInset = (thumb.bottom - thumb.top) / 5;
-    support::Pixels picture(width, height);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            const int fineX = finerOf(x, width);
-            const int fineY = finerOf(y, height);
-            COLORREF colour = colours.background;
-            if (covers(thumb.left, thumb.right, fineX) && covers(thumb.top, thumb.bottom, fineY)) {
-                colour = thumbColour;
-            }
-            if (thumb.right - thumb.left >= 8 && covers(thumb.top + gripInset, thumb.bottom - gripInset, fineY)) {
-                for (const int line : {middle - unit, middle + unit, middle - 3 * unit, middle + 3 * unit}) {
-                    if (fineX >= kFiner * line - 2 * unit && fineX < kFiner * line + 2 * unit) {
-                        colour = colours.grip;
-                    }
-                }
-            }
-            picture.set(x, y, colour);
+    Gdiplus::Bitmap large(kFiner * width, kFiner * height, PixelFormat32bppRGB);
+    Gdiplus::Graphics drawing(&large);
+    const auto fill = [&](const ReferenceBar::Rect& rect, COLORREF colour) {
+        const Gdiplus::SolidBrush brush(opaque(colour));
+        drawing.FillRectangle(&brush, kFiner * rect.left, kFiner * rect.top, kFiner * (rect.right - rect.left),
+                              kFiner * (rect.bottom - rect.top));
+    };
+    fill({0, 0, width, height}, colours.background);
+    fill(thumb, thumbColour);
+    if (thumb.right - thumb.left >= 8) {
+        const int unit = XTPDpiHelper().ScaleX(1, 96);
+        const Gdiplus::Pen pen(opaque(colours.grip), static_cast<Gdiplus::REAL>(kFiner * unit));
+        const int middle = (thumb.left + thumb.right) / 2;
+        const int inset = (thumb.bottom - thumb.top) / 5;
+        for (const int x : {middle - unit, middle + unit, middle - 3 * unit, middle + 3 * unit}) {
+            drawing.DrawLine(&pen, kFiner * x, kFiner * (thumb.top + inset), kFiner * x,
+                             kFiner * (thumb.bottom - inset));
         }
     }
-    return picture;
+    const support::MemoryDevice device(width, height);
+    Gdiplus::Graphics shown(device.dc());
+    shown.SetInterpolationMode(Gdiplus::InterpolationModeNearestNeighbor);
+    shown.DrawImage(&large, Gdiplus::Rect(0, 0, width, height), kCut, kCut, kFiner * width - kCut,
+                    kFiner * height - kCut, Gdiplus::UnitPixel);
+    return device.pixels();
 }
 
 int WINAPI refuseBitmap(INT, INT, INT, INT, BYTE*, void** bitmap) {
@@ -142,6 +138,34 @@ TEST_F(BarPicture, IsExactInEachSize) {
     }
 }
 
+TEST_F(BarPicture, IsThatOfTheLongWayWhereverTheThumbLies) {
+    for (const CSize size : {CSize(424, 24), CSize(300, 17), CSize(571, 36)}) {
+        resize(size.cx, size.cy);
+        for (int step = 0; step < 60; ++step) {
+            const ScopedTheme theme(step % 2);
+            const double start = step / 61.0;
+            const double end = start + (1.0 - start) * (step * 7 % 13) / 12.0;
+            show(start, end);
+            expectPicture(start, end, kThemes[step % 2].colours.idle, kThemes[step % 2].colours);
+        }
+    }
+}
+
+TEST_F(BarPicture, OfAWideBarIsThatOfTheLongWayToItsLastPixel) {
+    constexpr int kOnScreen = 1000;
+    for (const CSize size : {CSize(1180, 24), CSize(1919, 31), CSize(3840, 24)}) {
+        host.MoveWindow(kOnScreen - size.cx, 0, size.cx + 40, 120);
+        resize(size.cx, size.cy);
+        const RECT seen{size.cx - kOnScreen + 100, 0, size.cx, size.cy};
+        for (const double start : {0.2, 0.77, 0.93, 0.98}) {
+            show(start, start + 0.02);
+            EXPECT_TRUE(support::samePixels(
+                pixels().part(seen), expected(size.cx, size.cy, start, start + 0.02, kWhite.idle, kWhite).part(seen)))
+                << size.cx << ", " << start;
+        }
+    }
+}
+
 TEST_F(BarPicture, OfAWindowOutsideTheRangeIsCutAtTheBar) {
     show(-3.0, 0.5);
     EXPECT_EQ(kWhite.idle, pixels().at(0, kMiddle));
@@ -178,10 +202,11 @@ TEST_F(BarPicture, ThatCannotBeMadeIsLeftAsItWas) {
     {
         const support::ImportPatch noMemory(::GetModuleHandleW(L"OrtinControls.dll"), "gdiplus.dll",
                                             "GdipCreateBitmapFromScan0", &refuseBitmap);
+        bar->MoveWindow(20, 20, kWidth - 1, kHeight - 1, FALSE);
         bar->SetCurrent(0.0, 1.0);
         EXPECT_EQ("erase and paint", waits());
         EXPECT_EQ("nothing", waits()) << "validated all the same";
-        EXPECT_TRUE(support::samePixels(pixels(), painted));
+        EXPECT_TRUE(support::samePixels(pixels(), painted.part({0, 0, kWidth - 1, kHeight - 1})));
     }
     expectPicture(0.0, 1.0, kWhite.idle, kWhite);
 }
