@@ -11,13 +11,34 @@ constexpr int kGridLines = 10;
 constexpr int kLabelHeight = 16;
 constexpr int kColumns = kChartWidth / 2;
 constexpr int kRowHeight = 11;
+/// The system takes a call's quadrilaterals as one area, in a time that grows with the square of those that stand on
+/// one row of pixels: columns side by side are drawn a few at a time.
+constexpr std::size_t kRectsOfACall = 10;
+constexpr std::size_t kPointsOfARect = 4;
 
 void lines(HDC dc, const Shape& shape) {
     ::PolyPolyline(dc, shape.pixels.data(), shape.lengths.data(), static_cast<DWORD>(shape.lengths.size()));
 }
 
+/// Calls `draw` with the first point and the count of the points of each call.
+template <typename Draw>
+void inCalls(const Shape& shape, const Draw& draw) {
+    constexpr std::size_t kPoints = kRectsOfACall * kPointsOfARect;
+    for (std::size_t first = 0; first < shape.points.size(); first += kPoints) {
+        draw(first, std::min(kPoints, shape.points.size() - first));
+    }
+}
+
 void rects(HDC dc, const Shape& shape) {
-    ::PolyPolygon(dc, shape.pixels.data(), shape.corners.data(), static_cast<int>(shape.corners.size()));
+    inCalls(shape, [&](std::size_t first, std::size_t count) {
+        ::PolyPolygon(dc, &shape.pixels[first], shape.corners.data(), static_cast<int>(count / kPointsOfARect));
+    });
+}
+
+void rects(VectorCanvas::IVectorPainter& painter, const Shape& shape, VectorCanvas::DrawContextBase& style) {
+    inCalls(shape, [&](std::size_t first, std::size_t count) {
+        painter.FillRects(&shape.points[first], count, &style, {0, 0});
+    });
 }
 
 CRect labelRect(std::size_t index) {
@@ -113,10 +134,10 @@ void Candles::draw(VectorCanvas::IVectorPainter& painter) {
     painter.InitRender(CSize(kChartWidth, kChartHeight));
     painter.Clear(kBackground);
     painter.DrawLineList(m_grid.points.data(), m_grid.points.size(), m_gridStyle, {0, 0});
-    painter.FillRects(m_volume.points.data(), m_volume.points.size(), &m_volumeStyle, {0, 0});
+    rects(painter, m_volume, m_volumeStyle);
     painter.DrawLineList(m_wicks.points.data(), m_wicks.points.size(), m_wickStyle, {0, 0});
-    painter.FillRects(m_rising.points.data(), m_rising.points.size(), &m_risingStyle, {0, 0});
-    painter.FillRects(m_falling.points.data(), m_falling.points.size(), &m_fallingStyle, {0, 0});
+    rects(painter, m_rising, m_risingStyle);
+    rects(painter, m_falling, m_fallingStyle);
     painter.DrawPolyline(m_average.points.data(), m_average.points.size(), &m_averageStyle, {0, 0});
     for (std::size_t index = 0; index < m_labels.size(); ++index) {
         const CRect rect = labelRect(index);

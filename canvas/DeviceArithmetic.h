@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 
@@ -45,6 +46,17 @@ inline OrtinPoint<float> withinReach(const OrtinPoint<float>& point) {
 /// As toPixel, within reach.
 inline int toPixelWithinReach(float coordinate) {
     return static_cast<int>(withinReach(coordinate));
+}
+
+/// Whether all points lie within reach after the offset was added: a bare truncation, which takes a third of the time,
+/// is the same as toPixel for them. No branch, so that the compiler takes several points at once.
+inline bool allWithinReach(const OrtinPoint<float>* points, std::size_t count, const OrtinPoint<float>& offset) {
+    unsigned beyond = 0;
+    for (std::size_t index = 0; index < count; ++index) {
+        beyond |= static_cast<unsigned>(!(std::abs(points[index].x + offset.x) < kReach)) |
+                  static_cast<unsigned>(!(std::abs(points[index].y + offset.y) < kReach));
+    }
+    return beyond == 0;
 }
 
 /// Each edge truncated where it lies. The edges keep off the ends of the range, for frames are drawn one pixel inside.

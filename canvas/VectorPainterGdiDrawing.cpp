@@ -73,9 +73,16 @@ const POINT* VectorPainterGdi::Convert(const OrtinPoint<float>* points, std::siz
     if (m_points.size() < count) {
         m_points.resize(count);
     }
-    std::transform(points, points + count, m_points.begin(), [&](const OrtinPoint<float>& point) {
-        return POINT{convert(point.x + offset.x), convert(point.y + offset.y)};
-    });
+    const auto convertAll = [&](const auto& each) {
+        std::transform(points, points + count, m_points.begin(), [&each, offset](const OrtinPoint<float>& point) {
+            return POINT{each(point.x + offset.x), each(point.y + offset.y)};
+        });
+    };
+    if (allWithinReach(points, count, offset)) {
+        convertAll([](float coordinate) { return static_cast<LONG>(coordinate); });
+    } else {
+        convertAll(convert);
+    }
     return m_points.data();
 }
 

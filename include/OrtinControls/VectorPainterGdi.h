@@ -101,6 +101,8 @@ private:
     CompatibleBitmapOwner m_shadow;
     OwnedDevice m_source;
     OwnedDevice m_shadowDevice;
+    BITMAP m_shadowPixels{}; ///< of the shadow's section
+    bool m_settled = false;  ///< the frame has ended, and no clip hides a part of it
     CSize m_viewport;
     HWND m_window = nullptr;
     int m_shadowMode = 0;

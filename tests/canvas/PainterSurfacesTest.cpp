@@ -24,6 +24,10 @@ HBITMAP WINAPI refuseSection(HDC, const BITMAPINFO*, UINT, void**, HANDLE, DWORD
     return nullptr;
 }
 
+COLORREF WINAPI refusePixel(HDC, int, int) {
+    return CLR_INVALID;
+}
+
 HMODULE foundation() {
     return ::GetModuleHandleW(L"OrtinFoundation.dll");
 }
@@ -86,6 +90,51 @@ TEST_F(Surfaces, GiveNoObjectOutsideThePicture) {
     EXPECT_EQ(kId, painter.GetObjectId(0, kHeight - 1));
     for (const CPoint& outside :
          {CPoint(kWidth, 0), CPoint(-1, 0), CPoint(0, -1), CPoint(0, kHeight), CPoint(INT_MAX, INT_MIN)}) {
+        EXPECT_EQ(0U, painter.GetObjectId(outside.x, outside.y)) << outside.x << ' ' << outside.y;
+    }
+}
+
+TEST_F(Surfaces, GiveTheSameObjectsAfterTheFrameAsInIt) {
+    for (const CSize& size : {CSize(60, 40), CSize(59, 41), CSize(58, 1), CSize(57, 33), CSize(1, 30)}) {
+        begin(size.cx, size.cy);
+        drawDiagonal();
+        painter.DrawRect({30, 3, 20, 30}, kRed, kBlue, kOtherId);
+        const support::Pixels inFrame = shadow();
+        painter.EndRender(false);
+        EXPECT_EQ(inFrame, shadow()) << size.cx << 'x' << size.cy;
+    }
+}
+
+TEST_F(Surfaces, GiveTheirObjectsAfterTheFrameWithoutTheSystem) {
+    begin();
+    drawDiagonal();
+    painter.EndRender(false);
+    const support::ImportPatch patch(controls(), "gdi32.dll", "GetPixel", &refusePixel);
+    EXPECT_EQ(kId, painter.GetObjectId(5, 5));
+    EXPECT_EQ(0U, painter.GetObjectId(5, 6));
+    begin();
+    drawDiagonal();
+    EXPECT_EQ(0U, painter.GetObjectId(5, 5)) << "which is asked while something may be drawn";
+}
+
+TEST_F(Surfaces, GiveTheObjectsWithinAClipThatIsSetAfterTheFrame) {
+    begin();
+    drawDiagonal();
+    painter.EndRender(false);
+    const RECT clip{10, 10, 20, 20};
+    painter.SetClipRegion(&clip);
+    EXPECT_EQ(kId, painter.GetObjectId(12, 12)); // systems differ in whether a pixel outside the clip can be asked for
+    painter.EndRender(false);
+    EXPECT_EQ(kId, painter.GetObjectId(5, 5));
+}
+
+TEST_F(Surfaces, GiveNoObjectOutsideThemWhenTheViewportHasGrown) {
+    begin();
+    drawDiagonal();
+    painter.EndRender(false);
+    painter.InitWindowIdAndViewPort(nullptr, CSize(10'000, 10'000));
+    EXPECT_EQ(kId, painter.GetObjectId(5, 5));
+    for (const CPoint& outside : {CPoint(kWidth, 0), CPoint(0, kHeight), CPoint(9'999, 9'999)}) {
         EXPECT_EQ(0U, painter.GetObjectId(outside.x, outside.y)) << outside.x << ' ' << outside.y;
     }
 }
@@ -230,6 +279,11 @@ TEST_F(Surfaces, GoOverWithAMoveAndLeaveAPainterAsNew) {
     EXPECT_EQ(source, painter.GetSource());
     painter.DrawLine({0, 12}, {40, 12}, &line, {0, 0});
     EXPECT_EQ(kId, painter.GetObjectId(5, 12)) << "the GDI+ part has come along";
+
+    painter.EndRender(false);
+    const VectorPainterGdi settled(std::move(painter));
+    EXPECT_EQ(kId, settled.GetObjectId(5, 12));
+    EXPECT_EQ(0U, painter.GetObjectId(5, 12)); // NOLINT(bugprone-use-after-move): it is as new
 }
 
 TEST_F(Surfaces, LeaveNoHandlesBehindHoweverTheyEnd) {

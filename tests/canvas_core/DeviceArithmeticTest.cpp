@@ -4,6 +4,7 @@
 #include <limits>
 #include <ostream>
 #include <random>
+#include <vector>
 
 #include "DeviceArithmetic.h"
 
@@ -65,6 +66,40 @@ TEST(DevicePoints, AgreeWithExactArithmeticWhereFloatsAreExact) {
         const int pixel = VectorCanvas::toPixel(static_cast<float>(first) / 4.0F + static_cast<float>(second) / 4.0F);
         ASSERT_EQ((first + second) / 4, pixel) << first << "/4 + " << second << "/4";
     }
+}
+
+TEST(DevicePoints, AreWithinReachOnlyIfABareTruncationGivesTheSame) {
+    using Point = OrtinPoint<float>;
+    constexpr float kEnd = VectorCanvas::kReach;
+    struct Case {
+        const char* what;
+        Point point;
+        Point offset;
+        bool within;
+    };
+    const Case cases[] = {
+        {"plain", {-0.5F, 12.9F}, {0, 0}, true},
+        {"just within", {std::nextafter(kEnd, 0.0F), std::nextafter(-kEnd, 0.0F)}, {0, 0}, true},
+        {"at the end", {kEnd, 0}, {0, 0}, false},
+        {"at the other end", {0, -kEnd}, {0, 0}, false},
+        {"by its offset", {kEnd - 1, 0}, {1, 0}, false},
+        {"not by its offset", {kEnd + 1, 0}, {-2, 0}, true},
+        {"no number", {0, kNotANumber}, {0, 0}, false},
+        {"no number as offset", {0, 0}, {kNotANumber, 0}, false},
+        {"endless", {-kInfinity, 0}, {0, 0}, false},
+        {"endless less endless", {kInfinity, 0}, {-kInfinity, 0}, false},
+    };
+    for (const Case& c : cases) {
+        // Somewhere in a list.
+        for (std::size_t place = 0; place < 9; ++place) {
+            std::vector<Point> points(9, Point{-c.offset.x, -c.offset.y});
+            points[place] = c.point;
+            const bool offsetCounts = std::isfinite(c.offset.x) && std::isfinite(c.offset.y);
+            EXPECT_EQ(c.within && offsetCounts, VectorCanvas::allWithinReach(points.data(), points.size(), c.offset))
+                << c.what << " at " << place;
+        }
+    }
+    EXPECT_TRUE(VectorCanvas::allWithinReach(nullptr, 0, {0, 0}));
 }
 
 TEST(ShapePoints, StayWithinReach) {
