@@ -9,6 +9,8 @@ namespace {
 
 using std::chrono::nanoseconds;
 
+constexpr int kLeastRounds = 3;
+
 /// Takes the samples of one way.
 class Sampler {
 public:
@@ -72,19 +74,31 @@ double median(std::vector<double> values) {
     return values.size() % 2 == 1 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
 }
 
-Result measure(const Measurement& measurement, const Clock& clock, nanoseconds minimumSample) {
+double spread(std::vector<double> values) {
+    const double middle = median(values);
+    if (middle <= 0) {
+        return 0;
+    }
+    std::sort(values.begin(), values.end());
+    const std::size_t quarter = values.size() / 4;
+    return (values[values.size() - 1 - quarter] - values[quarter]) / 2 / middle;
+}
+
+Result measure(const Measurement& measurement, const Clock& clock, const Patience& patience) {
+    const nanoseconds start = clock();
     struct Way {
         Sampler sampler;
         std::vector<double> samples = {};
     };
-    std::vector<Way> ways{{Sampler(measurement.ours, clock, minimumSample)}};
+    std::vector<Way> ways{{Sampler(measurement.ours, clock, patience.minimumSample)}};
     for (const auto* other : {&measurement.peer, &measurement.limit}) {
         if (*other) {
-            ways.push_back({Sampler(**other, clock, minimumSample)});
+            ways.push_back({Sampler(**other, clock, patience.minimumSample)});
         }
     }
     const auto takeSample = [](Way& way) { way.samples.push_back(way.sampler.sample()); };
-    for (int round = 0; round < measurement.rounds; ++round) {
+    const auto hasTime = [&](int round) { return round < kLeastRounds || clock() - start < patience.total; };
+    for (int round = 0; round < measurement.rounds && hasTime(round); ++round) {
         // Every other round goes the other way, so that nobody always runs in the wake of the same neighbour.
         if (round % 2 == 0) {
             std::for_each(ways.begin(), ways.end(), takeSample);
@@ -93,22 +107,28 @@ Result measure(const Measurement& measurement, const Clock& clock, nanoseconds m
         }
     }
 
-    Result result{.what = measurement.what, .unit = "s", .ours = median(ways.front().samples)};
+    const std::vector<double>& ours = ways.front().samples;
+    Result result{.what = measurement.what, .unit = "s", .ours = median(ours), .spread = spread(ours)};
     result.goals = measurement.goals;
     if (measurement.peer) {
+        const std::vector<double> toPeer = ratios(ours, ways[1].samples);
         result.peer = median(ways[1].samples);
-        result.toPeer = median(ratios(ways.front().samples, ways[1].samples));
+        result.toPeer = median(toPeer);
+        result.spread = spread(toPeer);
     }
     if (measurement.limit) {
+        const std::vector<double> toLimit = ratios(ours, ways.back().samples);
         result.limit = median(ways.back().samples);
-        result.toLimit = median(ratios(ways.front().samples, ways.back().samples));
+        result.toLimit = median(toLimit);
+        result.spread = spread(toLimit);
     }
     return result;
 }
 
 Result measure(const Measurement& measurement) {
     const Clock clock = [] { return nanoseconds(std::chrono::steady_clock::now().time_since_epoch()); };
-    return measure(measurement, clock, std::chrono::milliseconds(5));
+    return measure(measurement, clock,
+                   {.minimumSample = std::chrono::milliseconds(5), .total = std::chrono::seconds(8)});
 }
 
 Result record(const Amount& amount) {

@@ -33,7 +33,14 @@ struct Measurement {
     std::optional<Runner> peer = {};  ///< the platform's own way
     std::optional<Runner> limit = {}; ///< the least that could do it
     Goals goals = {};
+    /// At most; slow work ends earlier, with no more than a few.
     int rounds = 15;
+};
+
+/// How long measuring goes on.
+struct Patience {
+    std::chrono::nanoseconds minimumSample; ///< how long a sample without preparation lasts at least
+    std::chrono::nanoseconds total;         ///< of a measurement; no round begins later, but for the first three
 };
 
 /// A number that is no time, of which less is better.
@@ -53,6 +60,7 @@ struct Result {
     std::optional<double> limit = {};
     std::optional<double> toPeer = {};
     std::optional<double> toLimit = {};
+    std::optional<double> spread = {}; ///< of the first of `toLimit`, `toPeer` and `ours` that there is, see below
     Goals goals = {};
     std::optional<double> goal = {}; ///< the greatest good `ours` itself
 
@@ -65,8 +73,10 @@ using Clock = std::function<std::chrono::nanoseconds()>;
 /// The middle value, or the mean of the two middle ones; 0 of nothing.
 double median(std::vector<double> values);
 
-/// Takes the samples; `minimumSample` is how long a sample without preparation lasts at least.
-Result measure(const Measurement& measurement, const Clock& clock, std::chrono::nanoseconds minimumSample);
+/// Half of what lies between the quarters of the values at both ends, as a part of the median; 0 of nothing.
+double spread(std::vector<double> values);
+
+Result measure(const Measurement& measurement, const Clock& clock, const Patience& patience);
 Result measure(const Measurement& measurement);
 Result record(const Amount& amount);
 

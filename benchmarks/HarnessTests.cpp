@@ -17,18 +17,57 @@ protected:
     }
 
     Result measured(const Measurement& measurement) {
-        return measure(
-            measurement, [this] { return now; }, 1ms);
+        return measure(measurement, [this] { return now; }, {.minimumSample = 1ms, .total = patience});
     }
 
     std::chrono::nanoseconds now{};
     int slowdown = 1;
+    std::chrono::nanoseconds patience = 1h;
 };
 
 TEST_F(Harness, TheMedianIsTheMiddleOrTheMeanOfTheTwoMiddleValues) {
     EXPECT_EQ(0, median({}));
     EXPECT_EQ(3, median({9, 1, 3}));
     EXPECT_EQ(2.5, median({4, 1, 2, 3}));
+}
+
+TEST_F(Harness, TheSpreadLeavesOutTheQuartersAtBothEnds) {
+    EXPECT_EQ(0, spread({}));
+    EXPECT_EQ(0, spread({5}));
+    EXPECT_DOUBLE_EQ(0.5, spread({3, 1, 2}));
+    EXPECT_DOUBLE_EQ(0.25, spread({100, 4, 5, 3, 3, 0, 4, 5}));
+}
+
+TEST_F(Harness, TheSpreadIsThatOfTheRatioToTheLimitElseToThePeerElseOfTheTime) {
+    int runs = 0;
+    const Runner unsteady{.run = [&] { now += 1ms * (1 + ++runs % 3); }, .prepare = [] {}};
+    const Runner steady{.run = [&] { now += 1ms; }, .prepare = [] {}};
+    const auto spreadOf = [&](const Runner& ours, std::optional<Runner> peer, std::optional<Runner> limit) {
+        return *measured({.what = "w", .ours = ours, .peer = peer, .limit = limit, .rounds = 12}).spread;
+    };
+    EXPECT_DOUBLE_EQ(0.5, spreadOf(unsteady, {}, {}));
+    EXPECT_DOUBLE_EQ(0, spreadOf(steady, {}, {}));
+    EXPECT_DOUBLE_EQ(0.5, spreadOf(unsteady, steady, {}));
+    EXPECT_LT(0.1, spreadOf(steady, unsteady, {}));
+    EXPECT_DOUBLE_EQ(0, spreadOf(steady, unsteady, steady));
+    EXPECT_DOUBLE_EQ(0.5, spreadOf(unsteady, unsteady, steady));
+}
+
+TEST_F(Harness, SlowWorkEndsAfterItsTimeButNotBeforeThreeRounds) {
+    int runs = 0;
+    const Runner ours{.run = [&] {
+        ++runs;
+        now += 1s;
+    }};
+    const auto runsWithin = [&](std::chrono::nanoseconds time) {
+        patience = time;
+        runs = 0;
+        measured({.what = "w", .ours = ours, .rounds = 9});
+        return runs - 1; // the first one warms up
+    };
+    EXPECT_EQ(3, runsWithin(0s));
+    EXPECT_EQ(5, runsWithin(6s));
+    EXPECT_EQ(9, runsWithin(1h));
 }
 
 TEST_F(Harness, RatiosAreOursToPeerAndLimit) {
@@ -135,10 +174,11 @@ TEST_F(Harness, TheTableLinesUpAndSaysWhatIsMissed) {
                                .limit = takes(1000us),
                                .goals = {.toLimit = 1.25, .toPeer = 0.15}}),
                      record({.what = "a row", .ours = 20, .unit = "bytes", .goal = 24})});
-    EXPECT_EQ("what                        ours     peer    limit  ours/limit     goal  ours/peer     goal\n"
-              "full repaint             1.30 ms  18.2 ms  1.00 ms        1.30  <= 1.25     0.0714  <= 0.15  MISSED\n"
-              "a row         20.0 bytes (<= 24)                                                                met\n",
-              out.str());
+    EXPECT_EQ(
+        "what                        ours     peer    limit  ours/limit     goal  ours/peer     goal  spread\n"
+        "full repaint             1.30 ms  18.2 ms  1.00 ms        1.30  <= 1.25     0.0714  <= 0.15    +-0%  MISSED\n"
+        "a row         20.0 bytes (<= 24)                                                                        met\n",
+        out.str());
 }
 
 TEST_F(Harness, TheJsonHoldsEachNumberThatThereIs) {
@@ -146,7 +186,7 @@ TEST_F(Harness, TheJsonHoldsEachNumberThatThereIs) {
     printJson(out, {measured({.what = "a \"row\"", .ours = takes(1ms), .limit = takes(2ms), .goals = {.toLimit = 1}})});
     EXPECT_EQ(
         "[\n  {\"what\": \"a \\\"row\\\"\", \"unit\": \"s\", \"ours\": 0.001, \"limit\": 0.002, \"toLimit\": 0.5, "
-        "\"goalToLimit\": 1, \"met\": true}\n]\n",
+        "\"goalToLimit\": 1, \"spread\": 0, \"met\": true}\n]\n",
         out.str());
 }
 

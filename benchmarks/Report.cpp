@@ -9,7 +9,7 @@
 namespace bench {
 namespace {
 
-using Line = std::array<std::string, 9>;
+using Line = std::array<std::string, 10>;
 
 std::string rounded(double value, int digits) {
     std::ostringstream text;
@@ -41,6 +41,10 @@ std::string ratio(const std::optional<double>& value) {
     return value ? rounded(*value, *value < 0.1 ? 4 : 2) : "";
 }
 
+std::string percent(const std::optional<double>& part) {
+    return part ? "+-" + rounded(*part * 100, 0) + "%" : "";
+}
+
 std::string atMost(const std::optional<double>& goal) {
     return goal ? "<= " + ratio(goal) : "";
 }
@@ -55,6 +59,7 @@ Line lineOf(const Result& result) {
             atMost(result.goals.toLimit),
             ratio(result.toPeer),
             atMost(result.goals.toPeer),
+            percent(result.spread),
             !met   ? ""
             : *met ? "met"
                    : "MISSED"};
@@ -80,7 +85,7 @@ void printMember(std::ostream& out, const char* name, const std::optional<double
 } // namespace
 
 void printTable(std::ostream& out, const std::vector<Result>& results) {
-    std::vector<Line> lines{{"what", "ours", "peer", "limit", "ours/limit", "goal", "ours/peer", "goal", ""}};
+    std::vector<Line> lines{{"what", "ours", "peer", "limit", "ours/limit", "goal", "ours/peer", "goal", "spread", ""}};
     std::transform(results.begin(), results.end(), std::back_inserter(lines), lineOf);
     std::array<std::size_t, std::tuple_size_v<Line>> widths{};
     for (const Line& line : lines) {
@@ -114,6 +119,7 @@ void printJson(std::ostream& out, const std::vector<Result>& results) {
         printMember(out, "goalToLimit", result.goals.toLimit);
         printMember(out, "toPeer", result.toPeer);
         printMember(out, "goalToPeer", result.goals.toPeer);
+        printMember(out, "spread", result.spread);
         printMember(out, "goal", result.goal);
         if (const auto met = result.met()) {
             out << ", \"met\": " << (*met ? "true" : "false");

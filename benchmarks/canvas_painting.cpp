@@ -15,7 +15,6 @@ constexpr int kPolygonPoints = 1'000;
 constexpr int kSingleLines = 1'000;
 constexpr int kCandles = 5'000;
 constexpr unsigned int kId = 0x123456;
-constexpr int kRoundsOfRects = 5; // each takes a second
 
 VectorCanvas::VectorPainterGdi makePainter(bool shadow) {
     VectorCanvas::VectorPainterGdi painter;
@@ -58,8 +57,7 @@ void lists(bench::Results& results, bool shadow) {
                                                     ::PolyPolygon(bare, rects.pixels.data(), rects.corners.data(),
                                                                   kRects);
                                                 }},
-                     .goals = goals,
-                     .rounds = kRoundsOfRects});
+                     .goals = goals});
     bare.select(::GetStockObject(BLACK_PEN));
     bare.select(::GetStockObject(WHITE_BRUSH));
 }
