@@ -42,7 +42,8 @@ TEST_F(Harness, TheSpreadIsThatOfTheRatioToTheLimitElseToThePeerElseOfTheTime) {
     int runs = 0;
     const Runner unsteady{.run = [&] { now += 1ms * (1 + ++runs % 3); }, .prepare = [] {}};
     const Runner steady{.run = [&] { now += 1ms; }, .prepare = [] {}};
-    const auto spreadOf = [&](const Runner& ours, std::optional<Runner> peer, std::optional<Runner> limit) {
+    const auto spreadOf = [&](const Runner& ours, const std::optional<Runner>& peer,
+                              const std::optional<Runner>& limit) {
         return *measured({.what = "w", .ours = ours, .peer = peer, .limit = limit, .rounds = 12}).spread;
     };
     EXPECT_DOUBLE_EQ(0.5, spreadOf(unsteady, {}, {}));
