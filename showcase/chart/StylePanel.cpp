@@ -68,9 +68,9 @@ void drawSwatch(CDC& dc, const CRect& area, COLORREF color) {
     fillRound(dc, swatch, scaled(2), color, Colors::inputFrame());
 }
 
-/// The names of the installed typefaces that have Polish letters, without those turned for vertical text.
-std::set<std::wstring> installedFaces() {
-    std::set<std::wstring> faces;
+/// The desk's own typeface, and the installed ones that have Polish letters, without those turned for vertical text.
+std::set<std::wstring> offeredFaces() {
+    std::set<std::wstring> faces{deskFont(DeskTextHeight, FW_NORMAL).lfFaceName};
     LOGFONTW wanted{};
     wanted.lfCharSet = EASTEUROPE_CHARSET;
     const CClientDC screen(nullptr);
@@ -177,7 +177,7 @@ bool StylePanel::createColor(ColorField color, int id) {
 }
 
 void StylePanel::addFaces() {
-    for (const std::wstring& face : installedFaces())
+    for (const std::wstring& face : offeredFaces())
         m_face.AddString(face.c_str());
 }
 

@@ -49,6 +49,20 @@ TEST(SettingsAtTheEnd, AnOwnFileThatCannotBeReadIsToldAndStaysAsItIs) {
     EXPECT_EQ(own.bytes(), "to nie są ustawienia\n");
 }
 
+TEST(SettingsAtTheEnd, AStyleThatCannotBeReadIsToldInOneLineAndKeepsNothingElseBack) {
+    const OwnSettings own("OrtinSettings 1\n/theme=black\n/foreign=7\n/chart/white/grid/pen#1=czerwone\n"
+                          "/chart/black/range/opacity=0.4\n/chart/lines=[{}]\n");
+    const DeskRun run = runDesk({}, [] {});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(linesOf(run.errors), 1) << run.errors;
+    EXPECT_NE(run.errors.find("nie odczytano ustawień wykresu: white/grid/pen, lines/0;"), std::string::npos)
+        << run.errors;
+    EXPECT_NE(own.bytes().find("/theme=black\n"), std::string::npos);
+    EXPECT_NE(own.bytes().find("/foreign=7\n"), std::string::npos);
+    EXPECT_NE(own.bytes().find("/chart/black/range/opacity=0.4\n"), std::string::npos);
+    EXPECT_NE(own.bytes().find("/chart/unread-lines=[{}]\n"), std::string::npos);
+}
+
 TEST(SettingsAtTheEnd, AnOwnFileThatCanBeReadIsKept) {
     const OwnSettings own("OrtinSettings 1\n/theme=black\n/foreign=7\n");
     const DeskRun run = runDesk({}, [] {});
