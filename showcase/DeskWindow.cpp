@@ -79,7 +79,8 @@ DeskWindow::DeskWindow(std::vector<Instrument> instruments, DeskSettings setting
       m_printing(m_table, m_handler, m_fonts),
       m_strip(m_fonts, *this),
       m_status(m_fonts),
-      m_menu(m_fonts) {}
+      m_menu(m_fonts),
+      m_info(m_fonts) {}
 
 DeskWindow::~DeskWindow() {
     DestroyWindow();
@@ -343,6 +344,7 @@ void DeskWindow::setTheme(DeskTheme theme) {
     m_strip.repaint();
     m_scrollBar.Invalidate(FALSE);
     m_status.Invalidate(FALSE);
+    m_info.repaint();
     Invalidate(FALSE);
 }
 

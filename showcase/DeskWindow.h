@@ -10,6 +10,7 @@
 #include "DeskMenu.h"
 #include "DeskScrollBar.h"
 #include "DeskSettings.h"
+#include "InfoWindow.h"
 #include "QuoteBook.h"
 #include "QuotesHandler.h"
 #include "QuotesPrinting.h"
@@ -39,6 +40,7 @@ public:
     QuotesTable& table() { return m_table; }
     TopStrip& strip() { return m_strip; }
     QuotesPrinting& printing() { return m_printing; }
+    InfoWindow& info() { return m_info; }
     void setTheme(DeskTheme theme);
 
     BOOL PreTranslateMessage(MSG* message) override;
@@ -90,6 +92,7 @@ private:
     bool runShortcut(const MSG& message);
     bool moveFocus(WPARAM key, KeyPlace place);
     void run(Command command);
+    void showInfo();
     void report(const std::optional<PrintReport>& report);
     bool runChosen(UINT chosen);
     bool typeIntoFindBox(const MSG& message);
@@ -111,6 +114,7 @@ private:
     TopStrip m_strip;
     StatusLine m_status;
     DeskMenu m_menu;
+    InfoWindow m_info;
     std::unique_ptr<TickFeed> m_feed;
     bool m_settingsAreKept = true;
     bool m_fading = false;

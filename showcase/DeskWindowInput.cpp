@@ -118,7 +118,17 @@ void DeskWindow::run(Command command) {
     case Command::Preview:
         report(m_printing.showPreview(*this));
         break;
+    case Command::ShowInfo:
+        showInfo();
+        break;
     }
+}
+
+void DeskWindow::showInfo() {
+    if (!m_info.openOver(*this))
+        return;
+    m_info.ShowWindow(SW_SHOW);
+    m_info.SetActiveWindow();
 }
 
 /// What the user did not leave without printing is told in the status line.
@@ -180,6 +190,8 @@ void DeskWindow::showRowMenu(CPoint screen) {
                                 {},
                                 lineOf(Command::Preview, L"Podgląd wydruku"),
                                 lineOf(Command::Print, L"Drukuj"),
+                                {},
+                                lineOf(Command::ShowInfo, L"Informacje"),
                             }));
 }
 

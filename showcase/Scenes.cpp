@@ -59,7 +59,9 @@ bool Scenes::writeScene(const std::wstring& name) {
         showFound();
     settle(*m_desk);
     bool written = false;
-    if (name.starts_with(L"preview-"))
+    if (name.starts_with(L"info-"))
+        written = writeInfo(name);
+    else if (name.starts_with(L"preview-"))
         written = writePreview(name);
     else if (name.starts_with(L"printer-dialog-"))
         written = writePrinterDialog(name);
@@ -69,6 +71,15 @@ bool Scenes::writeScene(const std::wstring& name) {
         written = writePicture(*m_desk, name);
     m_desk.reset();
     return written;
+}
+
+bool Scenes::writeInfo(const std::wstring& name) {
+    InfoWindow& info = m_desk->info();
+    if (!info.openOver(*m_desk))
+        return false;
+    info.ShowWindow(SW_SHOWNOACTIVATE);
+    settle(info);
+    return writePicture(info, name);
 }
 
 bool Scenes::writePreview(const std::wstring& name) {

@@ -25,6 +25,7 @@ public:
 private:
     bool writeScene(const std::wstring& name);
     bool writePicture(CWnd& shown, const std::wstring& name);
+    bool writeInfo(const std::wstring& name);
     bool writePreview(const std::wstring& name);
     bool writePrinterDialog(const std::wstring& name);
     bool writePrintStatus(const std::wstring& name);

@@ -20,6 +20,8 @@ constexpr std::array Scenes{
     Scene{L"table-sorted"},
     Scene{L"table-moving-column"},
     Scene{L"table-found"},
+    Scene{L"info-white"},
+    Scene{L"info-black"},
     Scene{L"preview-white", true},
     Scene{L"preview-black", true},
     Scene{L"printer-dialog-white", true},

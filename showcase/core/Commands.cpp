@@ -9,6 +9,7 @@ namespace {
 
 constexpr unsigned int TabKey = 0x09;
 constexpr unsigned int ReturnKey = 0x0D;
+constexpr unsigned int F1Key = 0x70;
 constexpr unsigned int F3Key = 0x72;
 constexpr unsigned int F6Key = 0x75;
 constexpr unsigned int F7Key = 0x76;
@@ -43,6 +44,7 @@ constexpr std::array Shortcuts{
     Shortcut{Command::SwitchAutoscroll, L"F6", F6Key},
     Shortcut{Command::SwitchLockedColumns, L"F7", F7Key},
     Shortcut{Command::SwitchTheme, L"F8", F8Key},
+    Shortcut{Command::ShowInfo, L"F1", F1Key},
 };
 
 bool asksFor(const KeyPress& press, const Shortcut& shortcut) {

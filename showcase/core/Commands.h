@@ -18,6 +18,7 @@ enum class Command {
     FitAllColumns,
     Print,
     Preview,
+    ShowInfo,
 };
 
 /// Where the keys go.

@@ -7,6 +7,7 @@ using namespace Desk;
 namespace {
 
 constexpr unsigned int Enter = 0x0D;
+constexpr unsigned int F1 = 0x70;
 constexpr unsigned int F3 = 0x72;
 constexpr unsigned int F8 = 0x77;
 
@@ -33,6 +34,7 @@ TEST(Commands, SearchingAndSwitchingGoesFromAnywhere) {
         EXPECT_EQ(commandOf({F3, false, false, place}), Command::FindNext);
         EXPECT_EQ(commandOf({F3, false, Shift, place}), Command::FindPrevious);
         EXPECT_EQ(commandOf({F8, false, false, place}), Command::SwitchTheme);
+        EXPECT_EQ(commandOf({F1, false, false, place}), Command::ShowInfo);
     }
     EXPECT_EQ(commandOf({Enter, false, false, KeyPlace::FindBox}), Command::FindNext);
     EXPECT_EQ(commandOf({Enter, false, Shift, KeyPlace::FindBox}), Command::FindPrevious);

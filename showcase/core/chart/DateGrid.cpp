@@ -74,7 +74,7 @@ std::chrono::year yearOf(const Candle& candle) {
 
 std::wstring labelOf(const Candles& candles, std::size_t candle, const Division& division) {
     const year_month_day date(candles[candle].date);
-    const std::wstring year = std::to_wstring(static_cast<int>(date.year()));
+    std::wstring year = std::to_wstring(static_cast<int>(date.year()));
     const std::wstring month = ShortMonths[static_cast<unsigned>(date.month()) - 1];
     if (division.months == 0)
         return std::to_wstring(static_cast<unsigned>(date.day())) + L' ' + month;
