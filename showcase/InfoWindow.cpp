@@ -41,11 +41,15 @@ BOOL InfoWindow::openOver(CWnd& desk) {
         return TRUE;
     CRect rect(0, 0, static_cast<int>(m_view.pageSize().cx) + DeskScrollBar::width(), scaled(StartHeight));
     CalcWindowRect(&rect, Style);
-    CRect around;
-    desk.GetWindowRect(&around);
-    const CPoint corner = around.CenterPoint() - CSize(rect.Width() / 2, rect.Height() / 2);
-    return CreateEx(0, AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW)), L"Informacje", Style, corner.x,
-                    corner.y, rect.Width(), rect.Height(), desk.m_hWnd, nullptr);
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof(monitor);
+    ::GetMonitorInfoW(::MonitorFromWindow(desk, MONITOR_DEFAULTTONEAREST), &monitor);
+    const int height = std::min(rect.Height(), CRect(monitor.rcWork).Height());
+    if (!CreateEx(0, AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW)), L"Informacje", Style, 0, 0,
+                  rect.Width(), height, desk.m_hWnd, nullptr))
+        return FALSE;
+    CenterWindow();
+    return TRUE;
 }
 
 int InfoWindow::OnCreate(LPCREATESTRUCT create) {

@@ -61,6 +61,7 @@ std::vector<InfoPart> infoParts() {
         entry(L"prawy przycisk na wierszu", L"kopiowanie, szukanie, drukowanie i to okno"),
 
         heading(L"Wykres"),
+        {Kind::Text, L"", L"Klawisze należą do wykresu, gdy się go kliknie."},
         entry(L"ruch myszy", L"krzyż z ceną i datą na osiach; nad nim kursy i wolumen wskazanej świecy"),
         entry(L"przeciągnięcie tła", L"przesuwa wykres w czasie; to samo strzałki, Home i End"),
         entry(L"kółko, Ctrl + kółko", L"przesuwa wykres; powiększa wokół myszy, tak jak klawisze + i −"),
