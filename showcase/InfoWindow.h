@@ -10,7 +10,7 @@ namespace Desk {
 class InfoWindow : public CWnd {
 public:
     /// `fonts` outlive the window.
-    explicit InfoWindow(DeskFonts& fonts) : m_fonts(fonts), m_view(fonts) {}
+    explicit InfoWindow(DeskFonts& fonts) : m_view(fonts) {}
     ~InfoWindow() override;
 
     /// Makes the window, in the middle of the desk, and leaves it to the caller to show it; nothing if it is there.
@@ -33,7 +33,6 @@ private:
     void placeWindows();
     void showState();
 
-    DeskFonts& m_fonts;
     InfoView m_view;
     DeskScrollBar m_verticalBar;
     DeskScrollBar m_horizontalBar{DeskScrollBar::Direction::Horizontal};
