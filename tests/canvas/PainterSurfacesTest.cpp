@@ -392,6 +392,23 @@ TEST_F(FrameEnd, AsynchronousReturnsFirst) {
     EXPECT_EQ("returned; update 0 0; ", log);
 }
 
+TEST_F(FrameEnd, IsWithoutAClipWhenTheWindowIsTold) {
+    begin();
+    const RECT clip{10, 10, 20, 15};
+    painter.SetClipRegion(&clip);
+    int clipped = -1;
+    window.onMessage = [&](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+        if (message == VectorCanvasCtrl::GetUpdatePaintingMessage()) {
+            ClipRegion region;
+            region.Create(&clip);
+            clipped = ::GetClipRgn(painter.GetSource(), region.GetHandle());
+        }
+        return std::nullopt;
+    };
+    painter.EndRender(true);
+    EXPECT_EQ(0, clipped);
+}
+
 TEST_F(FrameEnd, WithoutAWindowSendsNothing) {
     painter.InitWindowIdAndViewPort(nullptr, CSize(kWidth, kHeight));
     begin();

@@ -1,6 +1,12 @@
 #include "PainterFixture.h"
 
+#include <chrono>
+#include <functional>
+#include <future>
+#include <stdexcept>
 #include <string>
+#include <thread>
+#include <utility>
 
 #include "support/ImportPatch.h"
 #include "support/Pump.h"
@@ -236,4 +242,54 @@ TEST_F(Canvases, MayEndWhileTheyAreDrawn) {
     render(60, 40);
     EXPECT_EQ(nullptr, passing.m_hWnd);
     EXPECT_EQ(nullptr, painter.GetSource());
+}
+
+namespace {
+
+/// Something happens while its picture is copied.
+class InterruptedPainter : public VectorCanvas::VectorPainterGdi {
+public:
+    HDC GetSource() const override {
+        if (const auto once = std::exchange(onCopy, {})) {
+            once();
+        }
+        return VectorPainterGdi::GetSource();
+    }
+
+    mutable std::function<void()> onCopy;
+};
+
+} // namespace
+
+TEST_F(Canvases, MayBeDrawnFromWithinTheirDrawing) {
+    InterruptedPainter interrupted;
+    Canvas nested(&interrupted);
+    ASSERT_TRUE(nested.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 60, 40), &host, 6));
+    support::pumpUntilIdle();
+    ASSERT_TRUE(interrupted.InitRender(CSize(60, 40)));
+    nested.log = &log;
+    interrupted.onCopy = [&] { nested.SendMessage(VectorCanvasCtrl::GetUpdatePaintingMessage()); };
+    interrupted.EndRender(true);
+    EXPECT_EQ("draw 0,0; draw 0,0; ", log);
+}
+
+TEST_F(Canvases, AreDrawnByOtherThreadsAfterACopyThatFailed) {
+    InterruptedPainter interrupted;
+    Canvas failing(&interrupted);
+    ASSERT_TRUE(failing.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 60, 40), &host, 6));
+    support::pumpUntilIdle();
+    interrupted.onCopy = [] { throw std::runtime_error("no picture"); };
+    const support::MemoryDevice device(60, 40);
+    CDC* const dc = CDC::FromHandle(device.dc());
+    EXPECT_THROW(failing.Draw(dc, CPoint(0, 0)), std::runtime_error);
+    std::promise<void> drawn;
+    std::thread drawer([&] {
+        failing.Draw(dc, CPoint(0, 0));
+        drawn.set_value();
+    });
+    if (drawn.get_future().wait_for(std::chrono::seconds(10)) != std::future_status::ready) {
+        drawer.detach();
+        FAIL() << "the lock is still held";
+    }
+    drawer.join();
 }
