@@ -43,6 +43,8 @@ function(ortin_test name)
     ortin_need_googletest()
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE ortin_warnings ortin_platform_options ${arg_LIBRARIES} gtest gmock)
+    # Lines are all that is shown of where a test fell, and less of it compiles a sixth faster.
+    target_compile_options(${name} PRIVATE $<$<CONFIG:RelWithDebInfo>:-g1>)
     set(entries ${name})
     if(WIN32)
         set(runner ${PROJECT_SOURCE_DIR}/scripts/wine-run.sh)
