@@ -9,24 +9,10 @@
 #include <OrtinControls/GdiPenWrapper.h>
 
 #include "core/CommandLine.h"
+#include "core/chart/ChartObject.h"
 #include "core/chart/TrendLine.h"
 
 namespace Desk {
-
-/// What of a chart has a style of its own, besides each drawn line.
-enum class ChartPart : std::size_t {
-    RisingCandles,
-    FallingCandles,
-    Volume,
-    Average,
-    Grid,
-    Labels,
-    Range,         ///< the selected range
-    ArcMarker,     ///< an alert at the greatest high that is seen
-    EllipseMarker, ///< an alert at the greatest volume that is seen
-    NewLine,       ///< what a line begins with when it is drawn
-};
-inline constexpr std::size_t ChartPartCount = 10;
 
 /// The looks of one object. Which of it is used is `aspectsOf`'s to say.
 struct ChartStyle {

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/Instruments.h"
+#include "core/chart/Candles.h"
+
+namespace Desk {
+
+/// Where the candles of an instrument come from: a file or, without one, the seeded invention.
+class CandleSource {
+public:
+    explicit CandleSource(std::optional<CandleBook> file) : m_file(std::move(file)) {}
+
+    /// Empty if the file has none for it. They stay until the next call.
+    const Candles& candlesOf(const Instrument& instrument);
+    /// Whether it has any, without looking closer.
+    bool knows(const Instrument& instrument) const;
+    /// The symbols of the file, in order; none without a file.
+    std::vector<std::string> symbols() const;
+
+private:
+    std::optional<CandleBook> m_file;
+    Candles m_invented;
+};
+
+} // namespace Desk

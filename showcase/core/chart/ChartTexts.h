@@ -1,0 +1,29 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/chart/Candles.h"
+
+namespace Desk {
+
+/// One of the values of the legend: "O" and "111,39".
+struct LegendValue {
+    std::wstring name;
+    std::wstring value;
+};
+inline constexpr std::size_t LegendValueCount = 6;
+
+/// Open, high, low, close, volume and average of a candle, as the legend tells them.
+std::array<LegendValue, LegendValueCount> legendOf(const Candle& candle, std::optional<double> average);
+
+/// "1 234,50": as many decimals as its grid has, but for prices at least two.
+std::wstring priceText(double price, int decimals);
+/// "+3,21%   24 świece".
+std::wstring spanText(const Candle& first, const Candle& last, std::size_t candles);
+/// "Brak świec dla MMM; w pliku są: AAPL, COKE".
+std::wstring missingText(const std::wstring& symbol, const std::vector<std::wstring>& known);
+
+} // namespace Desk
