@@ -1,4 +1,4 @@
-#include "core/chart/CandleSource.h"
+#include "CandleSource.h"
 
 namespace Desk {
 

@@ -1,4 +1,4 @@
-#include "core/chart/ChartFrame.h"
+#include "ChartFrame.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "core/chart/ChartGestures.h"
+#include "ChartGestures.h"
 
 #include <algorithm>
 #include <array>

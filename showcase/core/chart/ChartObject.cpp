@@ -1,4 +1,4 @@
-#include "core/chart/ChartObject.h"
+#include "ChartObject.h"
 
 #include <cstdlib>
 

@@ -1,4 +1,4 @@
-#include "core/chart/ChartTexts.h"
+#include "ChartTexts.h"
 
 #include <algorithm>
 

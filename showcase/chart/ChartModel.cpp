@@ -1,0 +1,87 @@
+#include "ChartModel.h"
+
+#include <OrtinFoundation/StringTools.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "core/chart/ChartTexts.h"
+#include "core/chart/MovingAverage.h"
+
+namespace Desk {
+
+namespace {
+
+const Candles NoCandles;
+
+std::vector<std::wstring> wide(const std::vector<std::string>& texts) {
+    std::vector<std::wstring> all(texts.size());
+    std::transform(texts.begin(), texts.end(), all.begin(), OrtinTools::String::Utf8ToWide);
+    return all;
+}
+
+} // namespace
+
+ChartModel::ChartModel(CandleSource source, ChartMemory memory)
+    : m_source(std::move(source)),
+      m_memory(std::move(memory)),
+      m_candles(&NoCandles) {}
+
+bool ChartModel::show(const Instrument* instrument) {
+    const std::string key = instrument ? instrument->symbol : std::string();
+    if (key == m_key)
+        return false;
+    keepLines(m_memory);
+    m_key = key;
+    m_symbol = OrtinTools::String::Utf8ToWide(key);
+    m_name = instrument ? OrtinTools::String::Utf8ToWide(instrument->name) : std::wstring();
+    m_candles = instrument ? &m_source.candlesOf(*instrument) : &NoCandles;
+    m_missing = instrument && m_candles->empty() ? missingText(m_symbol, wide(m_source.symbols())) : std::wstring();
+    m_average = movingAverage(*m_candles, AveragePeriod);
+    takeLines();
+    m_gestures.startSeries(m_candles->size());
+    return true;
+}
+
+// Lines
+
+void ChartModel::addLine(const TrendLine& line) {
+    m_lines.push_back({line, styleOf(ChartPart::NewLine)});
+}
+
+void ChartModel::removeLine(std::size_t index) {
+    m_lines.erase(m_lines.begin() + static_cast<std::ptrdiff_t>(index));
+}
+
+ChartMemory ChartModel::memory() const {
+    ChartMemory memory = m_memory;
+    keepLines(memory);
+    return memory;
+}
+
+void ChartModel::keepLines(ChartMemory& memory) const {
+    for (const StyledLine& line : m_lines)
+        memory.lines.push_back({m_key, anchored(line.line, *m_candles), line.style});
+}
+
+/// Lines of an instrument without candles wait in the memory for a start that has some.
+void ChartModel::takeLines() {
+    m_lines.clear();
+    if (m_candles->empty())
+        return;
+    const auto others = std::stable_partition(m_memory.lines.begin(), m_memory.lines.end(),
+                                              [this](const DrawnLine& line) { return line.symbol != m_key; });
+    for (auto line = others; line != m_memory.lines.end(); ++line)
+        m_lines.push_back({placed(line->line, *m_candles), line->style});
+    m_memory.lines.erase(others, m_memory.lines.end());
+}
+
+void ChartModel::setSelectedStyle(const ChartStyle& style) {
+    const ChartObject& selected = m_state.selected;
+    if (selected.kind == ChartObject::Kind::Line)
+        m_lines[selected.index].style = style;
+    else if (selected.kind == ChartObject::Kind::Part)
+        m_memory.stylesOf(m_theme)[selected.index] = style;
+}
+
+} // namespace Desk

@@ -1,0 +1,387 @@
+#include "ChartPainting.h"
+
+#include <OrtinFoundation/TextSizeCalculator.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "DeskColors.h"
+#include "DeskFonts.h"
+#include "chart/ChartShapes.h"
+#include "core/PolishFormat.h"
+#include "core/chart/ChartTexts.h"
+
+namespace Desk {
+
+namespace {
+
+constexpr int LabelPadding = 6;
+constexpr int LegendPadding = 6;
+constexpr int PlotGap = 6;
+constexpr int PriceDistance = 34;
+constexpr int DateDistance = 72;
+constexpr int MarkerRadius = 9;
+constexpr int ControlPointSize = 7;
+constexpr int ToolMargin = 6;
+constexpr int ToolPadding = 9;
+constexpr const wchar_t* ToolText = L"Linia trendu";
+/// Beside the plot a line is drawn on for so many pixels, where nobody sees its end.
+constexpr double LineMargin = 8;
+constexpr unsigned long NoFill = 0xFFFFFFFF;
+
+VectorCanvas::CRect2D floating(const CRect& area) {
+    return {static_cast<float>(area.left), static_cast<float>(area.top), static_cast<float>(area.Width()),
+            static_cast<float>(area.Height())};
+}
+
+CRect areaOf(const ChartArea& area) {
+    return {area.left, area.top, area.right, area.bottom};
+}
+
+} // namespace
+
+ChartMeasures ChartPainting::measure(const ChartModel& model, CSize canvas) {
+    m_contexts.update(model);
+    double greatest = 0;
+    double volume = 0;
+    for (const Candle& candle : model.candles()) {
+        greatest = std::max(greatest, candle.high);
+        volume = std::max(volume, candle.volume);
+    }
+    m_labelHeight = TextSizeCalculator::GetTextSize(std::pair<HDC, HFONT>(nullptr, fontOf(m_contexts.labels)), L"0", false).cy;
+    const int widest = std::max(textWidth(priceText(greatest, 0) + L"0", m_contexts.labels),
+                                textWidth(formatLargeSum(volume), m_contexts.labels));
+    ChartMeasures measures;
+    measures.width = canvas.cx;
+    measures.height = canvas.cy;
+    measures.parts.legend = scaled(DeskTextHeight) + scaled(DeskTextHeight) / 3 + 2 * scaled(LegendPadding);
+    measures.parts.priceAxis = widest + 2 * scaled(LabelPadding);
+    measures.parts.dateAxis = m_labelHeight + scaled(LabelPadding);
+    measures.parts.gap = scaled(PlotGap);
+    measures.priceDistance = std::max(scaled(PriceDistance), 2 * m_labelHeight);
+    measures.dateDistance = std::max(scaled(DateDistance), 5 * m_labelHeight);
+    return measures;
+}
+
+void ChartPainting::draw(VectorCanvas::IVectorPainter& painter, const ChartModel& model, const ChartFrame& frame) {
+    m_painter = &painter;
+    m_model = &model;
+    m_frame = &frame;
+    painter.Clear(Colors::rowBackground());
+    if (model.candles().empty()) {
+        const CSize size = painter.GetViewport();
+        drawText(model.missing(), CRect(CPoint(0, 0), size), m_contexts.missing, DT_CENTER | DT_VCENTER | DT_END_ELLIPSIS);
+        return;
+    }
+    drawWatermark();
+    drawGrid();
+    drawVolumes();
+    drawSpan();
+    clipTo(frame.layout.prices);
+    drawCandles();
+    drawAverage();
+    painter.SetClipRegion(nullptr);
+    drawMarkers();
+    drawLastPrice();
+    drawLines();
+    drawLabels();
+    drawTool();
+    drawControlPoints();
+}
+
+// Behind the candles
+
+void ChartPainting::drawWatermark() {
+    const ChartArea& plot = m_frame->layout.prices;
+    const CSize room(plot.width() * 4 / 5, plot.height());
+    if (Gdiplus::Bitmap* bitmap = m_watermark.bitmap(m_model->symbol(), room, Colors::text())) {
+        const OrtinPoint<float> corner{static_cast<float>((plot.left + plot.right - m_watermark.size().cx) / 2),
+                                       static_cast<float>((plot.top + plot.bottom - m_watermark.size().cy) / 2)};
+        m_painter->DrawBitmap(corner, {0, 0}, &m_contexts.picture, bitmap);
+    }
+}
+
+void ChartPainting::drawGrid() {
+    const ChartLayout& layout = m_frame->layout;
+    m_points.clear();
+    const auto across = [this](const PriceGrid& grid, const PriceScale& scale, const ChartArea& plot) {
+        for (const double value : grid.values)
+            addLine(m_points, plot.left, pixelOf(scale.yOf(value)), plot.right, pixelOf(scale.yOf(value)));
+    };
+    across(m_frame->priceGrid, m_frame->prices, layout.prices);
+    across(m_frame->volumeGrid, m_frame->volumes, layout.volumes);
+    for (const DateMark& mark : m_frame->dates) {
+        const int x = pixelOf(mark.place);
+        addLine(m_points, x, layout.prices.top, x, layout.prices.bottom);
+        addLine(m_points, x, layout.volumes.top, x, layout.volumes.bottom);
+    }
+    m_painter->DrawLineList(m_points.data(), m_points.size(), m_contexts.grid, {0, 0});
+    m_points.clear();
+    addLine(m_points, layout.prices.right, layout.prices.top, layout.prices.right, layout.dateAxis.top);
+    addLine(m_points, layout.dateAxis.left, layout.dateAxis.top, layout.prices.right + 1, layout.dateAxis.top);
+    m_painter->DrawLineList(m_points.data(), m_points.size(), m_contexts.frame, {0, 0});
+}
+
+void ChartPainting::drawVolumes() {
+    clipTo(m_frame->layout.volumes);
+    m_points.clear();
+    for (const CandleColumn& column : m_frame->columns)
+        addRect(m_points, column.left, pixelOf(m_frame->volumes.yOf(column.candle.volume)), column.right,
+                m_frame->layout.volumes.bottom);
+    m_painter->FillRects(m_points.data(), m_points.size(), &m_contexts.volume, {0, 0});
+    m_painter->SetClipRegion(nullptr);
+}
+
+/// The selected range as far as it is seen, over both plots.
+std::optional<CRect> ChartPainting::spanArea() const {
+    const std::optional<CandleSpan>& span = m_model->state().span;
+    if (!span)
+        return std::nullopt;
+    const ChartLayout& layout = m_frame->layout;
+    const double left = m_frame->time.xOf(static_cast<double>(span->first));
+    const double right = m_frame->time.xOf(static_cast<double>(span->last));
+    if (right < layout.prices.left || left > layout.prices.right)
+        return std::nullopt;
+    const auto seen = [&](double x) {
+        return pixelOf(std::clamp(x, static_cast<double>(layout.prices.left), layout.prices.right - 1.0));
+    };
+    return CRect(seen(left), layout.prices.top, std::max(seen(right), seen(left) + 1), layout.dateAxis.top - 1);
+}
+
+void ChartPainting::drawSpan() {
+    const std::optional<CRect> area = spanArea();
+    if (!area)
+        return;
+    m_points.clear();
+    addRect(m_points, area->left, area->top, area->right, area->bottom);
+    m_painter->DrawPolygon(m_points.data(), m_points.size(), &m_contexts.range, {0, 0});
+    if (isHovered(objectOf(ChartPart::Range))) {
+        m_contexts.updateHalo(m_model->styleOf(ChartPart::Range));
+        m_points = {};
+        addLine(m_points, area->left, area->top, area->left, area->bottom);
+        addLine(m_points, area->right, area->top, area->right, area->bottom);
+        m_painter->DrawLineList(m_points.data(), m_points.size(), m_contexts.halo, {0, 0});
+    }
+    const CandleSpan& span = *m_model->state().span;
+    const std::wstring text =
+        spanText(m_model->candles()[span.first], m_model->candles()[span.last - 1], span.last - span.first);
+    const int width = textWidth(text, m_contexts.tag) + 2 * scaled(LabelPadding);
+    const ChartArea& plot = m_frame->layout.prices;
+    const int left = std::clamp(static_cast<int>(area->CenterPoint().x) - width / 2, plot.left,
+                                std::max(plot.left, plot.right - width));
+    const COLORREF ground = m_model->styleOf(ChartPart::Range).fill;
+    drawTag(text, CRect(left, area->top, left + width, area->top + m_labelHeight + scaled(4)),
+            isHovered(objectOf(ChartPart::Range)) ? lighter(ground) : ground, idOf(objectOf(ChartPart::Range)));
+}
+
+// Candles
+
+void ChartPainting::drawCandles() {
+    drawCandles(true, m_contexts.risingEdges, m_contexts.risingBodies);
+    drawCandles(false, m_contexts.fallingEdges, m_contexts.fallingBodies);
+}
+
+void ChartPainting::drawCandles(bool rising, VectorCanvas::DrawContextGdiLine& edges,
+                                VectorCanvas::DrawContextGdiLineAndFill& bodies) {
+    const PriceScale& scale = m_frame->prices;
+    m_points.clear();
+    m_otherPoints.clear();
+    for (const CandleColumn& column : m_frame->columns) {
+        const Candle& candle = column.candle;
+        if (candle.rises() != rising)
+            continue;
+        addLine(m_points, column.middle, pixelOf(scale.yOf(candle.high)), column.middle,
+                pixelOf(scale.yOf(candle.low)) + 1);
+        const int top = pixelOf(scale.yOf(std::max(candle.open, candle.close)));
+        const int bottom = std::max(pixelOf(scale.yOf(std::min(candle.open, candle.close))), top) + 1;
+        addRect(m_otherPoints, column.left, top, column.right, bottom);
+    }
+    m_painter->DrawLineList(m_points.data(), m_points.size(), edges, {0, 0});
+    m_painter->FillRects(m_otherPoints.data(), m_otherPoints.size(), &bodies, {0, 0});
+    // Around bodies that have an inside.
+    if (m_frame->columns.empty() || m_frame->columns.front().right - m_frame->columns.front().left < 3)
+        return;
+    m_points.clear();
+    for (std::size_t corner = 0; corner + 3 < m_otherPoints.size(); corner += 4)
+        addFrame(m_points, m_otherPoints[corner], m_otherPoints[corner + 2]);
+    m_painter->DrawLineList(m_points.data(), m_points.size(), edges, {0, 0});
+}
+
+void ChartPainting::drawAverage() {
+    m_points.clear();
+    for (const ChartPixel& pixel : m_frame->average)
+        m_points.push_back({static_cast<float>(pixel.x), static_cast<float>(pixelOf(pixel.y))});
+    if (isHovered(objectOf(ChartPart::Average))) {
+        m_contexts.updateHalo(m_model->styleOf(ChartPart::Average));
+        m_painter->DrawPolyline(m_points.data(), m_points.size(), &m_contexts.halo, {0, 0});
+    }
+    m_painter->DrawPolyline(m_points.data(), m_points.size(), &m_contexts.average, {0, 0});
+}
+
+// Over the candles
+
+void ChartPainting::drawMarkers() {
+    const int radius = scaled(MarkerRadius);
+    if (m_frame->highest) {
+        const CandleColumn& column = m_frame->columns[*m_frame->highest];
+        const OrtinPoint<float> centre{static_cast<float>(column.middle),
+                                       static_cast<float>(m_frame->prices.yOf(column.candle.high))};
+        const auto draw = [&](const VectorCanvas::DrawContextGdiLine& context) {
+            m_painter->DrawArc(centre, radius, radius, 180, 180, &context, {0, 0});
+        };
+        if (isHovered(objectOf(ChartPart::ArcMarker))) {
+            m_contexts.updateHalo(m_model->styleOf(ChartPart::ArcMarker));
+            draw(m_contexts.halo);
+        }
+        draw(m_contexts.arc);
+    }
+    if (m_frame->busiest && m_frame->layout.volumes.height() > 0) {
+        const CRect area = ellipseArea(*m_frame, radius);
+        const OrtinPoint<float> first{static_cast<float>(area.left), static_cast<float>(area.top)};
+        const OrtinPoint<float> second{static_cast<float>(area.right), static_cast<float>(area.bottom)};
+        if (isHovered(objectOf(ChartPart::EllipseMarker))) {
+            m_contexts.updateHalo(m_model->styleOf(ChartPart::EllipseMarker));
+            m_painter->DrawArc({(first.x + second.x) / 2, (first.y + second.y) / 2}, area.Width() / 2,
+                               area.Height() / 2, 0, 360, &m_contexts.halo, {0, 0});
+        }
+        m_painter->DrawEllipse(first, second, &m_contexts.ellipse, {0, 0});
+    }
+}
+
+std::optional<CRect> ChartPainting::lastPriceArea() const {
+    const ChartArea& axis = m_frame->layout.priceAxis;
+    const int y = pixelOf(m_frame->prices.yOf(m_model->candles().back().close));
+    if (y < axis.top || y >= axis.bottom)
+        return std::nullopt;
+    const int half = m_labelHeight / 2 + scaled(2);
+    return CRect(axis.left + 1, y - half, axis.right, y + half + 1);
+}
+
+void ChartPainting::drawLastPrice() {
+    const std::optional<CRect> area = lastPriceArea();
+    if (!area)
+        return;
+    const Candle& last = m_model->candles().back();
+    const COLORREF color = m_model->styleOf(last.rises() ? ChartPart::RisingCandles : ChartPart::FallingCandles).fill;
+    GdiPenWrapper pen(PS_DOT, 1, color);
+    m_contexts.lastPrice.UpdateContext(pen.GetHPEN());
+    const int y = area->CenterPoint().y;
+    m_points.clear();
+    addLine(m_points, m_frame->layout.prices.left, y, m_frame->layout.prices.right, y);
+    m_painter->DrawLineList(m_points.data(), m_points.size(), m_contexts.lastPrice, {0, 0});
+    drawTag(priceText(last.close, m_frame->priceGrid.decimals), *area, color, 0);
+}
+
+void ChartPainting::drawLines() {
+    const ChartArea& plot = m_frame->layout.prices;
+    clipTo(plot);
+    const ChartLines& lines = m_model->lines();
+    for (std::size_t index = 0; index < lines.lineCount(); ++index) {
+        const TrendLine& line = lines.line(index);
+        const std::optional<ClippedLine> seen =
+            clipped(Desk::pixelOf(line.from, m_frame->time, m_frame->prices),
+                    Desk::pixelOf(line.to, m_frame->time, m_frame->prices), plot, LineMargin);
+        if (!seen)
+            continue;
+        m_contexts.updateLine(*m_model, index);
+        if (isHovered(lineObject(index)))
+            m_painter->DrawLine(floating(seen->from), floating(seen->to), &m_contexts.halo, {0, 0});
+        m_painter->DrawLine(floating(seen->from), floating(seen->to), &m_contexts.line, {0, 0});
+    }
+    m_painter->SetClipRegion(nullptr);
+}
+
+// Around the plots
+
+void ChartPainting::drawLabels() {
+    const ChartLayout& layout = m_frame->layout;
+    const CRect taken = lastPriceArea().value_or(CRect());
+    const int half = m_labelHeight / 2;
+    const auto beside = [&](double y, const ChartArea& plot, const std::wstring& text) {
+        CRect area(plot.right, pixelOf(y) - half, layout.priceAxis.right - scaled(LabelPadding), 0);
+        area.bottom = area.top + m_labelHeight;
+        const bool isCut = area.top < plot.top || area.bottom > plot.bottom;
+        if (!isCut && (area.bottom <= taken.top || area.top >= taken.bottom))
+            drawText(text, area, m_contexts.labels, DT_RIGHT | DT_VCENTER);
+    };
+    for (const double price : m_frame->priceGrid.values)
+        beside(m_frame->prices.yOf(price), layout.prices, priceText(price, m_frame->priceGrid.decimals));
+    for (const double volume : m_frame->volumeGrid.values)
+        if (volume > 0)
+            beside(m_frame->volumes.yOf(volume), layout.volumes, formatLargeSum(volume));
+    for (const DateMark& mark : m_frame->dates) {
+        const int width = textWidth(mark.label, m_contexts.labels);
+        const int left = pixelOf(mark.place) - width / 2;
+        if (left >= layout.dateAxis.left && left + width <= layout.dateAxis.right)
+            drawText(mark.label, CRect(left, layout.dateAxis.top + 1, left + width, layout.dateAxis.bottom),
+                     m_contexts.labels, DT_CENTER | DT_VCENTER);
+    }
+}
+
+CRect ChartPainting::toolArea(const ChartFrame& frame) {
+    static const int textWidth = TextSizeCalculator::GetTextSize({}, ToolText, false).cx;
+    CRect area = areaOf(frame.layout.legend);
+    area.DeflateRect(scaled(ToolMargin), scaled(3));
+    area.left = std::max(area.left, area.right - textWidth - 2 * scaled(ToolPadding));
+    return area;
+}
+
+void ChartPainting::drawTool() {
+    const CRect area = toolArea(*m_frame);
+    if (m_frame->layout.legend.height() <= 0)
+        return;
+    const bool isHot = isHovered({ChartObject::Kind::LineTool, 0});
+    const bool isOn = m_model->state().drawsLine;
+    const COLORREF ground = isOn ? Colors::selectedRow() : isHot ? Colors::hotItem() : Colors::strip();
+    m_painter->DrawRect(floating(area), isOn || isHot ? Colors::accent() : Colors::inputFrame(), ground,
+                        m_contexts.tool.GetId());
+    drawText(ToolText, area, m_contexts.tool, DT_CENTER | DT_VCENTER);
+}
+
+void ChartPainting::drawControlPoints() {
+    const ChartObject& selected = m_model->state().selected;
+    controlPoints(*m_frame, *m_model, spanArea(), m_points);
+    if (m_points.empty())
+        return;
+    clipTo({0, m_frame->layout.prices.top, m_frame->layout.priceAxis.right, m_frame->layout.dateAxis.bottom});
+    VectorCanvas::DrawControlPointsHelper::PointSettings settings;
+    settings.lineColor = Colors::accent();
+    settings.lineWidth = std::max(1, scaled(1));
+    settings.fillColor = Colors::rowBackground();
+    settings.fill = true;
+    settings.pointSize = scaled(ControlPointSize);
+    settings.circle = selected.kind == ChartObject::Kind::Line;
+    settings.opacity = 1;
+    settings.smooth = true;
+    m_painter->DrawControlPoints(idOf(selected), m_points.data(), m_points.size(), {0, 0}, settings);
+    m_painter->SetClipRegion(nullptr);
+}
+
+// Tools
+
+void ChartPainting::drawText(const std::wstring& text, const CRect& area, VectorCanvas::DrawContextGdiText& style,
+                             unsigned int format) {
+    m_painter->DrawTextW(text, floating(area), style, format | DT_NOPREFIX);
+}
+
+void ChartPainting::drawTag(const std::wstring& text, const CRect& area, COLORREF ground, unsigned int id) {
+    m_painter->DrawRect(floating(area), ground, ground, id);
+    m_contexts.tag.SetId(id);
+    m_contexts.tag.UpdateContext(nullptr, inkOn(ground));
+    drawText(text, area, m_contexts.tag, DT_CENTER | DT_VCENTER);
+}
+
+void ChartPainting::clipTo(const ChartArea& area) {
+    const RECT clip{area.left, area.top, area.right, area.bottom};
+    m_painter->SetClipRegion(&clip);
+}
+
+bool ChartPainting::isHovered(const ChartObject& object) const {
+    return m_model->state().hovered == object;
+}
+
+int ChartPainting::textWidth(const std::wstring& text, VectorCanvas::DrawContextGdiText& style) const {
+    return TextSizeCalculator::GetTextSize(std::pair<HDC, HFONT>(nullptr, fontOf(style)), text, false).cx;
+}
+
+} // namespace Desk

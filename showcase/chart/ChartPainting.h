@@ -1,0 +1,62 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "chart/ChartContexts.h"
+#include "chart/ChartModel.h"
+#include "chart/Watermark.h"
+#include "core/chart/ChartFrame.h"
+
+namespace Desk {
+
+/// Draws one picture of the chart by a painter, layer upon layer. What it needs for that is kept from picture to
+/// picture.
+class ChartPainting {
+public:
+    /// What the parts of a canvas of this size need.
+    ChartMeasures measure(const ChartModel& model, CSize canvas);
+    /// Between the painter's `InitRender` and `EndRender`.
+    void draw(VectorCanvas::IVectorPainter& painter, const ChartModel& model, const ChartFrame& frame);
+    /// Where the button of the line tool lies.
+    static CRect toolArea(const ChartFrame& frame);
+
+private:
+    using Points = std::vector<OrtinPoint<float>>;
+
+    void drawWatermark();
+    void drawGrid();
+    void drawVolumes();
+    void drawSpan();
+    void drawCandles();
+    void drawCandles(bool rising, VectorCanvas::DrawContextGdiLine& edges,
+                     VectorCanvas::DrawContextGdiLineAndFill& bodies);
+    void drawAverage();
+    void drawLastPrice();
+    void drawMarkers();
+    void drawLines();
+    void drawLabels();
+    void drawTool();
+    void drawControlPoints();
+    void drawText(const std::wstring& text, const CRect& area, VectorCanvas::DrawContextGdiText& style,
+                  unsigned int format);
+    void drawTag(const std::wstring& text, const CRect& area, COLORREF ground, unsigned int id);
+    void clipTo(const ChartArea& area);
+    bool isHovered(const ChartObject& object) const;
+    std::optional<CRect> spanArea() const;
+    std::optional<CRect> lastPriceArea() const;
+    int textWidth(const std::wstring& text, VectorCanvas::DrawContextGdiText& style) const;
+
+    ChartContexts m_contexts;
+    Watermark m_watermark;
+    Points m_points;
+    Points m_otherPoints;
+    int m_labelHeight = 0;
+
+    // Of the picture that is being drawn.
+    VectorCanvas::IVectorPainter* m_painter = nullptr;
+    const ChartModel* m_model = nullptr;
+    const ChartFrame* m_frame = nullptr;
+};
+
+} // namespace Desk
