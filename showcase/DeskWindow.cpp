@@ -4,6 +4,7 @@
 #include <XTToolkitPro.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "DeskColors.h"
 #include "DeskDialog.h"
@@ -19,10 +20,13 @@ constexpr int StripId = 1;
 constexpr int TableId = 2;
 constexpr int ScrollBarId = 3;
 constexpr int StatusId = 4;
+constexpr int ChartId = 5;
 
-constexpr int StartWidth = 1060;
-constexpr int StartHeight = 700;
+constexpr int StartWidth = 1180;
+constexpr int StartHeight = 860;
 constexpr int LeastTableHeight = 160;
+/// Of the height between strip and status line.
+constexpr double ChartShare = 0.45;
 
 /// Where the library's preview of pages looks for its colours.
 constexpr unsigned int PreviewGround = 35;
@@ -70,13 +74,14 @@ BEGIN_MESSAGE_MAP(DeskWindow, CWnd)
     ON_WM_DRAWITEM()
 END_MESSAGE_MAP()
 
-DeskWindow::DeskWindow(std::vector<Instrument> instruments, DeskSettings settings, std::wstring settingsFile)
-    : m_book(std::move(instruments)),
+DeskWindow::DeskWindow(DeskData data, DeskSettings settings, std::wstring settingsFile)
+    : m_book(std::move(data.instruments)),
       m_settings(std::move(settings)),
       m_settingsFile(std::move(settingsFile)),
       m_handler(m_book, m_fonts, *this),
       m_table(m_fonts),
       m_printing(m_table, m_handler, m_fonts),
+      m_chart(CandleSource(std::move(data.candles)), ChartMemory(), m_fonts),
       m_strip(m_fonts, *this),
       m_status(m_fonts),
       m_menu(m_fonts),
@@ -102,13 +107,15 @@ BOOL DeskWindow::PreCreateWindow(CREATESTRUCT& create) {
 
 int DeskWindow::OnCreate(LPCREATESTRUCT create) {
     if (CWnd::OnCreate(create) == -1 || !m_strip.createIn(this, StripId) || !createTable() ||
-        !m_scrollBar.createIn(this, ScrollBarId) || !m_status.createIn(this, StatusId))
+        !m_scrollBar.createIn(this, ScrollBarId) || !m_chart.createIn(this, ChartId) ||
+        !m_status.createIn(this, StatusId))
         return -1;
     m_scrollBar.onScrollTo = [this](int position) {
         m_body->SetScrollPos(SB_VERT, position);
         m_table.Redraw();
     };
     setTheme(m_settings.theme);
+    showFirstKnown();
     m_strip.setSwitch(StripSwitch::LockedColumns, m_settings.lockedColumns);
     showCounts();
     m_status.setField(TickField, L"Bez zmian kursów");
@@ -177,8 +184,12 @@ void DeskWindow::saveSettingsOnce() {
 
 void DeskWindow::OnSize(UINT type, int cx, int cy) {
     CWnd::OnSize(type, cx, cy);
-    if (type != SIZE_MINIMIZED && m_status.GetSafeHwnd())
-        placeWindows();
+    if (type == SIZE_MINIMIZED || !m_status.GetSafeHwnd())
+        return;
+    placeWindows();
+    // Before there was a height, there was nothing to scroll.
+    if (std::exchange(m_isFirstPlacing, false))
+        m_table.SetCarretIndex(m_handler.selection().caret());
 }
 
 void DeskWindow::placeWindows() {
@@ -186,12 +197,16 @@ void DeskWindow::placeWindows() {
     GetClientRect(&client);
     const int statusTop = std::max(TopStrip::height(), static_cast<int>(client.bottom) - m_status.height());
     const int barLeft = std::max(0, static_cast<int>(client.right) - DeskScrollBar::width());
-    const int tableHeight = statusTop - TopStrip::height();
+    const int room = statusTop - TopStrip::height();
+    const int chartHeight =
+        std::clamp(static_cast<int>(room * ChartShare), std::min(ChartPane::leastHeight(), room), room);
+    const int tableHeight = room - chartHeight;
     m_strip.MoveWindow(0, 0, client.right, TopStrip::height());
     m_table.MoveWindow(0, TopStrip::height(), barLeft, tableHeight);
     const int header = m_table.GetHeaderHeight();
     m_scrollBar.MoveWindow(barLeft, TopStrip::height() + header, client.right - barLeft,
                            std::max(0, tableHeight - header));
+    m_chart.MoveWindow(0, TopStrip::height() + tableHeight, client.right, chartHeight);
     m_status.MoveWindow(0, statusTop, client.right, m_status.height());
     const CRect corner = cornerRect();
     InvalidateRect(&corner, FALSE);
@@ -214,7 +229,7 @@ void DeskWindow::OnGetMinMaxInfo(MINMAXINFO* info) {
     if (!m_status.GetSafeHwnd())
         return;
     CRect least(0, 0, std::max(m_strip.leastWidth(), m_table.GetMinWidthVisibleColumns() + DeskScrollBar::width()),
-                TopStrip::height() + scaled(LeastTableHeight) + m_status.height());
+                TopStrip::height() + scaled(LeastTableHeight) + ChartPane::leastHeight() + m_status.height());
     CalcWindowRect(&least, GetStyle(), GetExStyle());
     info->ptMinTrackSize = CPoint(least.Width(), least.Height());
 }
@@ -249,7 +264,24 @@ void DeskWindow::onSelectionChanged() {
     if (!m_status.GetSafeHwnd())
         return;
     showCounts();
+    showInstrument();
     onFindChanged();
+}
+
+/// The chart is that of the row with the caret.
+void DeskWindow::showInstrument() {
+    const std::optional<std::size_t> instrument = m_handler.caretInstrument();
+    m_chart.show(instrument ? &m_book.at(*instrument) : nullptr);
+}
+
+/// At the start the caret stands where there is something to see.
+void DeskWindow::showFirstKnown() {
+    for (std::size_t instrument = 0; instrument < m_book.size(); ++instrument)
+        if (m_chart.model().source().knows(m_book.at(instrument))) {
+            m_table.SelectItem(m_handler.rowOf(instrument), false);
+            break;
+        }
+    showInstrument();
 }
 
 void DeskWindow::onFindChanged() {
@@ -343,6 +375,7 @@ void DeskWindow::setTheme(DeskTheme theme) {
     m_strip.setSwitch(StripSwitch::BlackTheme, theme == DeskTheme::Black);
     m_strip.repaint();
     m_scrollBar.Invalidate(FALSE);
+    m_chart.setTheme(theme);
     m_status.Invalidate(FALSE);
     m_info.repaint();
     Invalidate(FALSE);

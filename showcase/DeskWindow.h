@@ -6,6 +6,7 @@
 
 #include <afxwin.h>
 
+#include "DeskData.h"
 #include "DeskFonts.h"
 #include "DeskMenu.h"
 #include "DeskScrollBar.h"
@@ -18,16 +19,17 @@
 #include "StatusLine.h"
 #include "TickFeed.h"
 #include "TopStrip.h"
+#include "chart/ChartPane.h"
 #include "core/Commands.h"
 
 namespace Desk {
 
-/// The main window: strip, table with its scroll bar, status line. It wires them; what the quotes mean is the
-/// handler's.
+/// The main window: strip, table with its scroll bar, chart, status line. It wires them; what the quotes mean is the
+/// handler's, and what the chart shows is the pane's.
 class DeskWindow : public CWnd, private QuotesEvents, private StripEvents {
 public:
     /// `settings` are the starting ones; `settingsFile` is where they are kept at the end, nowhere if empty.
-    DeskWindow(std::vector<Instrument> instruments, DeskSettings settings, std::wstring settingsFile);
+    DeskWindow(DeskData data, DeskSettings settings, std::wstring settingsFile);
     ~DeskWindow() override;
 
     BOOL open();
@@ -39,6 +41,7 @@ public:
 
     QuotesTable& table() { return m_table; }
     TopStrip& strip() { return m_strip; }
+    ChartPane& chart() { return m_chart; }
     QuotesPrinting& printing() { return m_printing; }
     InfoWindow& info() { return m_info; }
     void setTheme(DeskTheme theme);
@@ -80,6 +83,8 @@ private:
     void onSwitch(StripSwitch which) override;
 
     BOOL createTable();
+    void showFirstKnown();
+    void showInstrument();
     void placeWindows();
     void showCounts();
     void saveSettingsOnce();
@@ -87,6 +92,7 @@ private:
     CRect cornerRect();
 
     bool isBody(HWND window) { return window == m_body->GetSafeHwnd(); }
+    bool isInChart(HWND window);
     bool forwardWheel(const MSG& message);
     KeyPlace placeOf(HWND window);
     bool runShortcut(const MSG& message);
@@ -111,11 +117,13 @@ private:
     QuotesPrinting m_printing;
     CWnd* m_body = nullptr; ///< the table's
     DeskScrollBar m_scrollBar;
+    ChartPane m_chart;
     TopStrip m_strip;
     StatusLine m_status;
     DeskMenu m_menu;
     InfoWindow m_info;
     std::unique_ptr<TickFeed> m_feed;
+    bool m_isFirstPlacing = true;
     bool m_settingsAreKept = true;
     bool m_fading = false;
     bool m_autoscroll = false;

@@ -37,8 +37,10 @@ BOOL DeskWindow::PreTranslateMessage(MSG* message) {
 }
 
 bool DeskWindow::forwardWheel(const MSG& message) {
+    if (isInChart(message.hwnd))
+        m_chart.turnWheel(message);
     // A wheel turned over the table has reached its body on the way here.
-    if (!CtrlsTools::IsDescendant(m_table.GetSafeHwnd(), message.hwnd))
+    else if (!CtrlsTools::IsDescendant(m_table.GetSafeHwnd(), message.hwnd))
         m_body->SendMessage(WM_MOUSEWHEEL, message.wParam, message.lParam);
     return true;
 }
@@ -49,12 +51,19 @@ KeyPlace DeskWindow::placeOf(HWND window) {
     return window == m_strip.findBox().GetSafeHwnd() ? KeyPlace::FindBox : KeyPlace::Elsewhere;
 }
 
+bool DeskWindow::isInChart(HWND window) {
+    return CtrlsTools::IsDescendant(m_chart.GetSafeHwnd(), window);
+}
+
 bool DeskWindow::runShortcut(const MSG& message) {
     const KeyPlace place = placeOf(message.hwnd);
     if (const std::optional<Command> command = commandOf(keyPressOf(message, place))) {
         run(*command);
         return true;
     }
+    // Escape leaves the chart when there is nothing else to leave in it.
+    if (message.wParam == VK_ESCAPE && isInChart(message.hwnd) && m_chart.takesEscape())
+        return false;
     return moveFocus(message.wParam, place);
 }
 

@@ -49,17 +49,20 @@ private:
 
 /// What the desk starts with, once all that the user gave has been looked at. Throws a `Refusal`.
 struct Start {
-    std::vector<Instrument> instruments;
+    DeskData data;
     DeskSettings settings;
     std::wstring settingsFile;
     std::optional<Printer> printer;
 };
 
-std::vector<Instrument> loadInstruments(const DeskOptions& options) {
-    if (!options.instruments)
-        return sampleInstruments();
+DeskData loadData(const DeskOptions& options) {
     try {
-        return readInstruments(std::filesystem::path(*options.instruments));
+        DeskData data;
+        data.instruments =
+            options.instruments ? readInstruments(std::filesystem::path(*options.instruments)) : sampleInstruments();
+        if (options.candles)
+            data.candles = readCandles(std::filesystem::path(*options.candles));
+        return data;
     } catch (const InputError& error) {
         throw Refusal{OrtinTools::String::Utf8ToWide(error.what()), BadInputExitCode};
     }
@@ -109,7 +112,7 @@ Printer findPrinter(const std::wstring& name) {
 
 Start prepare(const DeskOptions& options) {
     Start start;
-    start.instruments = loadInstruments(options);
+    start.data = loadData(options);
     takeSettings(options, start);
     if (options.print)
         start.printer = findPrinter(*options.print);
@@ -173,8 +176,8 @@ BOOL DeskApp::InitInstance() {
 }
 
 bool DeskApp::openDesk(Start start, const DeskOptions& options) {
-    m_desk = std::make_unique<DeskWindow>(std::move(start.instruments), std::move(start.settings),
-                                          std::move(start.settingsFile));
+    m_desk =
+        std::make_unique<DeskWindow>(std::move(start.data), std::move(start.settings), std::move(start.settingsFile));
     if (!m_desk->open()) {
         refuse({L"nie można utworzyć okna", 1});
         return false;
@@ -188,7 +191,7 @@ bool DeskApp::openDesk(Start start, const DeskOptions& options) {
 
 /// Prints from a desk that nobody sees.
 bool DeskApp::printTable(const Start& start) {
-    DeskWindow desk(start.instruments, start.settings, std::wstring());
+    DeskWindow desk(start.data, start.settings, std::wstring());
     if (!desk.open()) {
         printError(L"nie można utworzyć okna");
         return false;
@@ -204,7 +207,7 @@ bool DeskApp::printTable(const Start& start) {
 
 bool DeskApp::writeShots(const Start& start, const DeskOptions& options) {
     const auto makeDesk = [&start]() -> std::unique_ptr<DeskWindow> {
-        auto desk = std::make_unique<DeskWindow>(start.instruments, start.settings, std::wstring());
+        auto desk = std::make_unique<DeskWindow>(start.data, start.settings, std::wstring());
         if (!desk->open()) {
             printError(L"nie można utworzyć okna");
             return nullptr;

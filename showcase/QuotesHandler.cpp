@@ -102,6 +102,11 @@ std::size_t QuotesHandler::instrumentAt(int row) const {
     return static_cast<std::size_t>(m_view->GetItemData(row) - 1);
 }
 
+std::optional<std::size_t> QuotesHandler::caretInstrument() const {
+    const int row = m_selection.caret();
+    return row >= 0 && row < m_view->GetItemCount() ? std::optional(instrumentAt(row)) : std::nullopt;
+}
+
 /// From the first selected row to the last.
 std::vector<std::size_t> QuotesHandler::selectedInstruments() const {
     std::vector<std::size_t> instruments;

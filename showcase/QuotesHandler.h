@@ -49,6 +49,9 @@ public:
 
     const QuoteBook& book() const { return m_book; }
     const RowSelection& selection() const { return m_selection; }
+    /// Nothing without a caret row.
+    std::optional<std::size_t> caretInstrument() const;
+    int rowOf(std::size_t instrument) const { return m_rows[instrument]; }
     void selectAllRows();
     void collapseSelection();
 

@@ -3,6 +3,7 @@
 #include "PngFile.h"
 #include "ScopedSelection.h"
 #include "StandardStreams.h"
+#include "chart/ChartScene.h"
 
 namespace Desk {
 
@@ -58,6 +59,8 @@ bool Scenes::writeScene(const std::wstring& name) {
     else if (name == L"table-found")
         showFound();
     settle(*m_desk);
+    if (name.starts_with(L"chart-"))
+        showChart(name);
     bool written = false;
     if (name.starts_with(L"info-"))
         written = writeInfo(name);
@@ -67,6 +70,8 @@ bool Scenes::writeScene(const std::wstring& name) {
         written = writePrinterDialog(name);
     else if (name == L"print-status")
         written = writePrintStatus(name);
+    else if (name == L"chart-ids")
+        written = tellWritten(writeIds(m_desk->chart().canvas().picture(), fileOf(name)), name);
     else
         written = writePicture(*m_desk, name);
     m_desk.reset();
@@ -160,13 +165,36 @@ bool Scenes::writePicture(CWnd& shown, const std::wstring& name) {
         const ScopedSelection selected(memory, bitmap);
         memory.BitBlt(0, 0, client.Width(), client.Height(), &window, 0, 0, SRCCOPY);
     }
-    const std::wstring file = m_folder + L"\\" + name + L".png";
-    if (!writePng(bitmap, file)) {
-        printError(file + L": nie można zapisać; sprawdź prawa i miejsce na dysku");
-        return false;
+    return tellWritten(writePng(bitmap, fileOf(name)), name);
+}
+
+std::wstring Scenes::fileOf(const std::wstring& name) const {
+    return m_folder + L"\\" + name + L".png";
+}
+
+bool Scenes::tellWritten(bool written, const std::wstring& name) const {
+    if (written)
+        printLine(fileOf(name));
+    else
+        printError(fileOf(name) + L": nie można zapisać; sprawdź prawa i miejsce na dysku");
+    return written;
+}
+
+void Scenes::showChart(const std::wstring& name) {
+    ChartScene scene(m_desk->chart());
+    if (name == L"chart-zoomed")
+        scene.zoomIn();
+    // What comes last is selected.
+    if (name == L"chart-black") {
+        scene.drawTrendLine();
+        scene.selectRange();
+    } else {
+        scene.selectRange();
+        scene.drawTrendLine();
     }
-    printLine(file);
-    return true;
+    if (name == L"chart-hover")
+        scene.pointAtAverage();
+    settle(*m_desk);
 }
 
 CPoint Scenes::headerCentre(int position) {

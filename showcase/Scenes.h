@@ -31,6 +31,9 @@ private:
     bool writePrintStatus(const std::wstring& name);
     QuotesHandler& quotes();
 
+    std::wstring fileOf(const std::wstring& name) const;
+    bool tellWritten(bool written, const std::wstring& name) const;
+    void showChart(const std::wstring& name);
     void showSorted();
     void showFound();
     void clickHeader(int position);

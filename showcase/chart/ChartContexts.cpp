@@ -89,7 +89,8 @@ void ChartContexts::update(const ChartModel& model) {
     setShape(ChartPart::EllipseMarker, ellipse);
 
     const ChartStyle& text = model.styleOf(ChartPart::Labels);
-    setFont(labels, text.font, isHovered(ChartPart::Labels) ? Colors::blend(text.text, Colors::text(), 0.6) : text.text);
+    setFont(labels, text.font,
+            isHovered(ChartPart::Labels) ? Colors::blend(text.text, Colors::text(), 0.6) : text.text);
     labels.SetId(idOf(objectOf(ChartPart::Labels)));
     setFont(tag, text.font, 0);
     setDeskFont(tool, FW_NORMAL, Colors::text());

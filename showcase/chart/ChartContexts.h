@@ -14,7 +14,7 @@ public:
     /// Once before each picture.
     void update(const ChartModel& model);
     /// `line` and `halo` become those of one trend line.
-    void updateLine(const ChartModel& model, std::size_t line);
+    void updateLine(const ChartModel& model, std::size_t index);
     /// `halo` becomes that of a part.
     void updateHalo(const ChartStyle& style);
 
@@ -36,7 +36,7 @@ public:
     VectorCanvas::DrawContextGdiText tag;     ///< on a coloured ground
     VectorCanvas::DrawContextGdiText tool;    ///< on the button of the line tool
     VectorCanvas::DrawContextGdiText missing; ///< the sentence in place of candles
-    VectorCanvas::DrawContextBase picture;     ///< of what is no object
+    VectorCanvas::DrawContextBase picture;    ///< of what is no object
 };
 
 /// A width at 96 pixels to the inch as a pen's; dashes of the system are one pixel wide at most.

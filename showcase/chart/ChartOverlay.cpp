@@ -79,15 +79,14 @@ std::vector<CRect> ChartOverlay::areas() const {
 
 CRect ChartOverlay::legendArea() const {
     const ChartArea& legend = m_frame.layout.legend;
-    return {legend.left, legend.top, ChartPainting::toolArea(m_frame).left, legend.bottom};
+    return {legend.left, legend.top, m_frame.lineTool.left, legend.bottom};
 }
 
 std::optional<ChartOverlay::Label> ChartOverlay::valueLabel(CPoint cross) const {
     const ChartLayout& layout = m_frame.layout;
     const bool isPrice = layout.prices.holds(cross.x, cross.y);
-    const std::wstring text = isPrice
-                                  ? priceText(m_frame.prices.valueAt(cross.y + 0.5), m_frame.priceGrid.decimals)
-                                  : formatLargeSum(std::max(0.0, m_frame.volumes.valueAt(cross.y + 0.5)));
+    const std::wstring text = isPrice ? priceText(m_frame.prices.valueAt(cross.y + 0.5), m_frame.priceGrid.decimals)
+                                      : formatLargeSum(std::max(0.0, m_frame.volumes.valueAt(cross.y + 0.5)));
     const int half = m_fonts.lineHeight() / 2 + 1;
     return Label{text, CRect(layout.priceAxis.left + 1, cross.y - half, layout.priceAxis.right, cross.y + half + 1)};
 }
@@ -142,9 +141,8 @@ void ChartOverlay::drawLegend(CDC& dc) {
     const bool isPointed = cross().has_value();
     const Candle& candle = isPointed ? column().candle : m_model.candles().back();
     const std::size_t behind = isPointed ? column().last : m_model.candles().size();
-    const std::optional<double> average = behind >= AveragePeriod
-                                              ? std::optional(m_model.average()[behind - AveragePeriod])
-                                              : std::nullopt;
+    const std::optional<double> average =
+        behind >= AveragePeriod ? std::optional(m_model.average()[behind - AveragePeriod]) : std::nullopt;
     const auto values = legendOf(candle, average);
 
     CRect area = legendArea();

@@ -32,7 +32,7 @@ private:
     std::optional<Label> valueLabel(CPoint cross) const;
     Label dateLabel(CPoint cross) const;
     void drawLegend(CDC& dc);
-    void drawCross(CDC& dc, CPoint cross);
+    void drawCross(CDC& dc, CPoint at);
     void drawLabel(CDC& dc, const Label& label);
     CRect legendArea() const;
 

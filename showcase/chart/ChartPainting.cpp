@@ -27,7 +27,6 @@ constexpr int ToolPadding = 9;
 constexpr const wchar_t* ToolText = L"Linia trendu";
 /// Beside the plot a line is drawn on for so many pixels, where nobody sees its end.
 constexpr double LineMargin = 8;
-constexpr unsigned long NoFill = 0xFFFFFFFF;
 
 VectorCanvas::CRect2D floating(const CRect& area) {
     return {static_cast<float>(area.left), static_cast<float>(area.top), static_cast<float>(area.Width()),
@@ -48,7 +47,8 @@ ChartMeasures ChartPainting::measure(const ChartModel& model, CSize canvas) {
         greatest = std::max(greatest, candle.high);
         volume = std::max(volume, candle.volume);
     }
-    m_labelHeight = TextSizeCalculator::GetTextSize(std::pair<HDC, HFONT>(nullptr, fontOf(m_contexts.labels)), L"0", false).cy;
+    m_labelHeight =
+        TextSizeCalculator::GetTextSize(std::pair<HDC, HFONT>(nullptr, fontOf(m_contexts.labels)), L"0", false).cy;
     const int widest = std::max(textWidth(priceText(greatest, 0) + L"0", m_contexts.labels),
                                 textWidth(formatLargeSum(volume), m_contexts.labels));
     ChartMeasures measures;
@@ -58,6 +58,8 @@ ChartMeasures ChartPainting::measure(const ChartModel& model, CSize canvas) {
     measures.parts.priceAxis = widest + 2 * scaled(LabelPadding);
     measures.parts.dateAxis = m_labelHeight + scaled(LabelPadding);
     measures.parts.gap = scaled(PlotGap);
+    measures.lineTool.width = textWidth(ToolText, m_contexts.tool) + 2 * scaled(ToolPadding);
+    measures.lineTool.margin = scaled(ToolMargin);
     measures.priceDistance = std::max(scaled(PriceDistance), 2 * m_labelHeight);
     measures.dateDistance = std::max(scaled(DateDistance), 5 * m_labelHeight);
     return measures;
@@ -70,7 +72,8 @@ void ChartPainting::draw(VectorCanvas::IVectorPainter& painter, const ChartModel
     painter.Clear(Colors::rowBackground());
     if (model.candles().empty()) {
         const CSize size = painter.GetViewport();
-        drawText(model.missing(), CRect(CPoint(0, 0), size), m_contexts.missing, DT_CENTER | DT_VCENTER | DT_END_ELLIPSIS);
+        drawText(model.missing(), CRect(CPoint(0, 0), size), m_contexts.missing,
+                 DT_CENTER | DT_VCENTER | DT_END_ELLIPSIS);
         return;
     }
     drawWatermark();
@@ -95,9 +98,10 @@ void ChartPainting::drawWatermark() {
     const ChartArea& plot = m_frame->layout.prices;
     const CSize room(plot.width() * 4 / 5, plot.height());
     if (Gdiplus::Bitmap* bitmap = m_watermark.bitmap(m_model->symbol(), room, Colors::text())) {
-        const OrtinPoint<float> corner{static_cast<float>((plot.left + plot.right - m_watermark.size().cx) / 2),
-                                       static_cast<float>((plot.top + plot.bottom - m_watermark.size().cy) / 2)};
-        m_painter->DrawBitmap(corner, {0, 0}, &m_contexts.picture, bitmap);
+        const CSize free = CSize(plot.width(), plot.height()) - m_watermark.size();
+        const int left = plot.left + free.cx / 2;
+        const int top = plot.top + free.cy / 2;
+        m_painter->DrawBitmap({static_cast<float>(left), static_cast<float>(top)}, {0, 0}, &m_contexts.picture, bitmap);
     }
 }
 
@@ -111,7 +115,7 @@ void ChartPainting::drawGrid() {
     across(m_frame->priceGrid, m_frame->prices, layout.prices);
     across(m_frame->volumeGrid, m_frame->volumes, layout.volumes);
     for (const DateMark& mark : m_frame->dates) {
-        const int x = pixelOf(mark.place);
+        const int x = pixelOf(m_frame->time.xOf(mark.place));
         addLine(m_points, x, layout.prices.top, x, layout.prices.bottom);
         addLine(m_points, x, layout.volumes.top, x, layout.volumes.bottom);
     }
@@ -311,24 +315,16 @@ void ChartPainting::drawLabels() {
             beside(m_frame->volumes.yOf(volume), layout.volumes, formatLargeSum(volume));
     for (const DateMark& mark : m_frame->dates) {
         const int width = textWidth(mark.label, m_contexts.labels);
-        const int left = pixelOf(mark.place) - width / 2;
+        const int left = pixelOf(m_frame->time.xOf(mark.place)) - width / 2;
         if (left >= layout.dateAxis.left && left + width <= layout.dateAxis.right)
             drawText(mark.label, CRect(left, layout.dateAxis.top + 1, left + width, layout.dateAxis.bottom),
                      m_contexts.labels, DT_CENTER | DT_VCENTER);
     }
 }
 
-CRect ChartPainting::toolArea(const ChartFrame& frame) {
-    static const int textWidth = TextSizeCalculator::GetTextSize({}, ToolText, false).cx;
-    CRect area = areaOf(frame.layout.legend);
-    area.DeflateRect(scaled(ToolMargin), scaled(3));
-    area.left = std::max(area.left, area.right - textWidth - 2 * scaled(ToolPadding));
-    return area;
-}
-
 void ChartPainting::drawTool() {
-    const CRect area = toolArea(*m_frame);
-    if (m_frame->layout.legend.height() <= 0)
+    const CRect area = areaOf(m_frame->lineTool);
+    if (area.IsRectEmpty())
         return;
     const bool isHot = isHovered({ChartObject::Kind::LineTool, 0});
     const bool isOn = m_model->state().drawsLine;

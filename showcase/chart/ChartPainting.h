@@ -18,8 +18,6 @@ public:
     ChartMeasures measure(const ChartModel& model, CSize canvas);
     /// Between the painter's `InitRender` and `EndRender`.
     void draw(VectorCanvas::IVectorPainter& painter, const ChartModel& model, const ChartFrame& frame);
-    /// Where the button of the line tool lies.
-    static CRect toolArea(const ChartFrame& frame);
 
 private:
     using Points = std::vector<OrtinPoint<float>>;

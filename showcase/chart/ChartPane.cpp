@@ -29,8 +29,7 @@ BEGIN_MESSAGE_MAP(ChartPane, CWnd)
 END_MESSAGE_MAP()
 
 ChartPane::ChartPane(CandleSource source, ChartMemory memory, DeskFonts& fonts)
-    : m_fonts(fonts),
-      m_model(std::move(source), std::move(memory)),
+    : m_model(std::move(source), std::move(memory)),
       m_canvas(m_model, fonts),
       m_panel(fonts) {}
 

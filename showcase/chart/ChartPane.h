@@ -55,7 +55,6 @@ private:
     void showRange();
     void showSelected();
 
-    DeskFonts& m_fonts;
     ChartModel m_model;
     ChartCanvas m_canvas;
     AdvancedScroll m_bar{this};

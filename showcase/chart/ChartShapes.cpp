@@ -62,13 +62,13 @@ void markPart(ChartPart part, const ChartFrame& frame, const std::optional<CRect
         break;
     case ChartPart::Grid:
         for (const double price : frame.priceGrid.values)
-            add(points, (layout.prices.left + layout.prices.right) / 2, frame.prices.yOf(price));
+            add(points, (layout.prices.left + layout.prices.right) * 0.5, frame.prices.yOf(price));
         break;
     case ChartPart::Labels:
         for (const double price : frame.priceGrid.values)
             add(points, layout.priceAxis.left + 1, frame.prices.yOf(price));
         for (const DateMark& mark : frame.dates)
-            add(points, mark.place, layout.dateAxis.top);
+            add(points, frame.time.xOf(mark.place), layout.dateAxis.top);
         break;
     case ChartPart::Range:
         if (span)

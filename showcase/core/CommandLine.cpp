@@ -22,6 +22,11 @@ constexpr std::array Scenes{
     Scene{L"table-found"},
     Scene{L"info-white"},
     Scene{L"info-black"},
+    Scene{L"chart-white"},
+    Scene{L"chart-black"},
+    Scene{L"chart-hover"},
+    Scene{L"chart-zoomed"},
+    Scene{L"chart-ids"},
     Scene{L"preview-white", true},
     Scene{L"preview-black", true},
     Scene{L"printer-dialog-white", true},
@@ -105,8 +110,9 @@ constexpr std::array ValueOptions{
                     return std::nullopt;
                 }},
     ValueOption{L"--candles",
-                [](DeskOptions&, const std::wstring&) -> std::optional<Refusal> {
-                    return Refusal{L"--candles: ta wersja jeszcze nie pokazuje świec", NotOfferedExitCode};
+                [](DeskOptions& options, const std::wstring& value) -> std::optional<Refusal> {
+                    options.candles = value;
+                    return std::nullopt;
                 }},
 };
 
@@ -154,6 +160,7 @@ std::wstring helpText() {
     std::wstring text =
         L"OrtinDesk: tabela notowań\n\n"
         L"  --instruments PLIK.csv  instrumenty do pokazania; bez niej dane przykładowe\n"
+        L"  --candles PLIK.csv      świece do wykresu; bez niej dane przykładowe\n"
         L"  --theme white|black     motyw; bez niej ostatnio używany; z --shots bez znaczenia\n"
         L"  --ticks N               zmiany kursów na sekundę, losowe, ale powtarzalne; z --shots bez znaczenia\n"
         L"  --settings PLIK         gdzie pamiętać układ kolumn; bez niej w danych użytkownika\n"

@@ -12,6 +12,7 @@ enum class DeskTheme { White, Black };
 /// What the user asked for at the start.
 struct DeskOptions {
     std::optional<std::wstring> instruments;
+    std::optional<std::wstring> candles;
     std::optional<DeskTheme> theme;
     /// Where the scenes are written; the desk ends by itself then.
     std::optional<std::wstring> shots;

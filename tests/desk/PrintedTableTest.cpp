@@ -40,7 +40,7 @@ std::vector<PageOfRows> expectedPages(std::size_t rows, int rowHeight, int room)
 
 /// The pages of a desk of the size that it starts with.
 std::vector<PageOfRows> expectedPagesOf(const std::vector<Desk::Instrument>& instruments) {
-    Desk::DeskWindow desk(instruments, {}, {});
+    Desk::DeskWindow desk({instruments, {}}, {}, {});
     EXPECT_TRUE(desk.open());
     PrintDialogContext context;
     PrinterOutput::choose(context);

@@ -54,7 +54,7 @@ TEST(CommandLine, RefusesWhatItDoesNotKnowWithCode2) {
              {L"--theme"},
              {L"--theme", L"pink"},
              {L"--instruments"},
-             {L"--instruments", L"--theme"},
+             {L"--instruments", L"--candles", L"--theme"},
              {L"--instruments", L""},
              {L"--ticks", L"-1"},
              {L"--ticks", L"many"},
@@ -86,8 +86,9 @@ TEST(CommandLine, ASceneOfPrintingNeedsAPrinter) {
     EXPECT_FALSE(needsPrinter(L"table-white"));
 }
 
-TEST(CommandLine, SaysThatCandlesAreNotOfferedWithCode3) {
-    EXPECT_EQ(refused({L"--candles", L"a.csv"}).exitCode, NotOfferedExitCode);
+TEST(CommandLine, TakesCandles) {
+    EXPECT_EQ(accepted({L"--candles", L"a.csv"}).candles, L"a.csv");
+    EXPECT_EQ(refused({L"--candles"}).exitCode, BadInputExitCode);
 }
 
 TEST(CommandLine, HelpNamesEverySceneAndOption) {

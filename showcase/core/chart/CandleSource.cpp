@@ -19,8 +19,8 @@ const Candles& CandleSource::candlesOf(const Instrument& instrument) {
         const auto found = m_file->find(instrument.symbol);
         return found != m_file->end() ? found->second : NoCandles;
     }
-    m_invented = sampleCandles(instrument.symbol, instrument.price.value_or(InventedPrice), LastInventedDay,
-                               InventedCandles);
+    m_invented =
+        sampleCandles(instrument.symbol, instrument.price.value_or(InventedPrice), LastInventedDay, InventedCandles);
     return m_invented;
 }
 

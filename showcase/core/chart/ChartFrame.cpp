@@ -15,8 +15,8 @@ void layOutAverage(ChartFrame& frame, const std::vector<double>& average) {
     frame.average.clear();
     for (const CandleColumn& column : frame.columns)
         if (column.last >= AveragePeriod && column.last - AveragePeriod < average.size())
-            frame.average.push_back({static_cast<double>(column.middle),
-                                     frame.prices.yOf(average[column.last - AveragePeriod])});
+            frame.average.push_back(
+                {static_cast<double>(column.middle), frame.prices.yOf(average[column.last - AveragePeriod])});
 }
 
 /// The first of the greatest.
@@ -24,10 +24,10 @@ template <typename Value>
 std::optional<std::size_t> greatest(const std::vector<CandleColumn>& columns, Value value) {
     if (columns.empty())
         return std::nullopt;
-    const auto found = std::max_element(columns.begin(), columns.end(),
-                                        [value](const CandleColumn& a, const CandleColumn& b) {
-                                            return a.candle.*value < b.candle.*value;
-                                        });
+    const auto found =
+        std::max_element(columns.begin(), columns.end(), [value](const CandleColumn& a, const CandleColumn& b) {
+            return a.candle.*value < b.candle.*value;
+        });
     return static_cast<std::size_t>(found - columns.begin());
 }
 
@@ -37,22 +37,29 @@ std::optional<std::size_t> ChartFrame::columnAt(int x) const {
     if (columns.empty())
         return std::nullopt;
     const double place = time.placeAt(x + 0.5);
-    const auto behind = std::upper_bound(
-        columns.begin(), columns.end(), place,
-        [](double sought, const CandleColumn& column) { return sought < static_cast<double>(column.first); });
+    const auto behind =
+        std::upper_bound(columns.begin(), columns.end(), place, [](double sought, const CandleColumn& column) {
+            return sought < static_cast<double>(column.first);
+        });
     return static_cast<std::size_t>(std::max<std::ptrdiff_t>(behind - columns.begin() - 1, 0));
 }
 
 void layOutFrame(ChartFrame& frame, const Candles& candles, const std::vector<double>& average, const ChartRange& range,
                  const ChartMeasures& measures) {
     frame.layout = layoutChart(measures.width, measures.height, measures.parts);
+    const ChartArea& legend = frame.layout.legend;
+    const int toolRight = std::max(legend.left, legend.right - measures.lineTool.margin);
+    const int toolMargin = std::min(measures.lineTool.margin / 2, legend.height() / 2);
+    frame.lineTool = {std::max(legend.left, toolRight - measures.lineTool.width), legend.top + toolMargin, toolRight,
+                      legend.bottom - toolMargin};
     const ChartArea& plot = frame.layout.prices;
     const ChartArea& volumePlot = frame.layout.volumes;
     frame.time = TimeScale(range, candles.size(), plot.left, plot.right);
     candleColumns(candles, frame.time, frame.columns);
     const PriceSpan span = priceSpan(frame.columns, PriceMargin);
     frame.prices = PriceScale(span.low, span.high, plot.top, plot.bottom);
-    frame.volumes = PriceScale(0, greatestVolume(frame.columns) * (1 + VolumeMargin), volumePlot.top, volumePlot.bottom);
+    frame.volumes =
+        PriceScale(0, greatestVolume(frame.columns) * (1 + VolumeMargin), volumePlot.top, volumePlot.bottom);
     frame.priceGrid = priceGrid(frame.prices, measures.priceDistance);
     frame.volumeGrid = priceGrid(frame.volumes, measures.priceDistance);
     frame.dates = dateGrid(candles, frame.time, measures.dateDistance);

@@ -22,6 +22,10 @@ struct ChartMeasures {
     int width = 0; ///< of the canvas
     int height = 0;
     ChartSizes parts;
+    struct {
+        int width = 0;
+        int margin = 0; ///< at its right, and half of it above and below
+    } lineTool;
     int priceDistance = 1; ///< the least one between the lines of the grids
     int dateDistance = 1;
 };
@@ -29,6 +33,7 @@ struct ChartMeasures {
 /// Where everything of one picture stands. It is computed anew for each picture; its lists keep their memory.
 struct ChartFrame {
     ChartLayout layout;
+    ChartArea lineTool; ///< its button, at the right end of the legend
     TimeScale time{{}, 0, 0, 1};
     PriceScale prices{0, 1, 0, 1};
     PriceScale volumes{0, 1, 0, 1};
