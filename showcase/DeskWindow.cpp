@@ -81,7 +81,7 @@ DeskWindow::DeskWindow(DeskData data, DeskSettings settings, std::wstring settin
       m_handler(m_book, m_fonts, *this),
       m_table(m_fonts),
       m_printing(m_table, m_handler, m_fonts),
-      m_chart(CandleSource(std::move(data.candles)), ChartMemory(), m_fonts),
+      m_chart(CandleSource(std::move(data.candles)), std::move(m_settings.chart), m_fonts),
       m_strip(m_fonts, *this),
       m_status(m_fonts),
       m_menu(m_fonts),
@@ -173,6 +173,7 @@ void DeskWindow::saveSettingsOnce() {
     if (m_settingsFile.empty())
         return;
     m_settings.columns = m_handler.columnLayout();
+    m_settings.chart = m_chart.model().memory();
     const ParameterStatus status = saveSettings(m_settingsFile, m_settings);
     if (!status.IsSuccess())
         printError(status.GetMessageText());
