@@ -58,6 +58,12 @@ BOOL DeskButton::createIn(CWnd* parent, int id, const wchar_t* text, DeskFonts& 
     return TRUE;
 }
 
+void DeskButton::adopt(HWND button, DeskFonts& fonts) {
+    m_fonts = &fonts;
+    SubclassWindow(button);
+    SetFont(&fonts.text());
+}
+
 void DeskButton::OnMouseMove(UINT flags, CPoint point) {
     m_isHot = true;
     CXTPButton::OnMouseMove(flags, point);

@@ -10,6 +10,8 @@ namespace Desk {
 class DeskButton : public CXTPButton {
 public:
     BOOL createIn(CWnd* parent, int id, const wchar_t* text, DeskFonts& fonts);
+    /// Draws a button of somebody else as long as that lives.
+    void adopt(HWND button, DeskFonts& fonts);
     /// The button that Enter presses, told by its colour.
     void makeDefault() { m_isDefault = true; }
     void OnDraw(CDC* dc) override;

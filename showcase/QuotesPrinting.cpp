@@ -1,5 +1,6 @@
 #include "QuotesPrinting.h"
 
+#include "StatusWindowLook.h"
 #include "core/PrintRange.h"
 
 namespace Desk {
@@ -42,6 +43,7 @@ PrintReport QuotesPrinting::print(const std::shared_ptr<PrintInfoEx>& info, cons
     if (countPages(m_table, context) == 0)
         return {PrintOutcome::Nothing, NothingText};
     m_handler.setPrintTime(timeText());
+    const StatusWindowLook look(m_fonts);
     const PrintOutcome outcome = runPrintJob(info, m_table);
     if (outcome != PrintOutcome::Sent)
         return {outcome, L"Drukowanie na drukarce „" + printer + L"” zostało przerwane."};

@@ -99,7 +99,7 @@ TEST_F(PrintByKeys, ABadRangeKeepsTheDialogAndWhatWasTyped) {
 }
 
 TEST_F(PrintByKeys, AClickOnTheStatusWindowsCancelEndsAPrintOfManyRows) {
-    start({L"--instruments", m_folder.write(L"many.csv", instrumentsOf(50'000)).wstring()});
+    start({L"--theme", L"black", L"--instruments", m_folder.write(L"many.csv", instrumentsOf(50'000)).wstring()});
     support::chord({VK_CONTROL, 'P'});
     dialog(L"Drukuj");
     support::typeKey(VK_RETURN);
@@ -109,6 +109,14 @@ TEST_F(PrintByKeys, AClickOnTheStatusWindowsCancelEndsAPrintOfManyRows) {
         return status && textOf(::GetDlgItem(status, StatusPageId)).starts_with(L"Strona ");
     }));
     EXPECT_FALSE(::IsWindowEnabled(desk()));
+    const support::Pixels look = pixelsOf(status);
+    std::size_t bright = 0;
+    for (int y = 0; y < look.height(); ++y)
+        for (int x = 0; x < look.width(); ++x)
+            bright += GetGValue(look.at(x, y)) > 0x90 ? 1 : 0;
+    EXPECT_GT(bright, 100U) << "the texts";
+    EXPECT_LT(bright * 10, static_cast<std::size_t>(look.width()) * static_cast<std::size_t>(look.height()))
+        << "and nothing else is light in the black theme";
     const HWND cancel = ::GetDlgItem(status, IDCANCEL);
     support::click(onScreen(cancel, scaled(20), scaled(10)));
     EXPECT_TRUE(eventually([&] { return !::IsWindow(status) && ::IsWindowEnabled(desk()); }));
