@@ -14,6 +14,9 @@
 
 namespace Desk {
 
+/// Pens are from 1 to this wide, at 96 pixels to the inch.
+inline constexpr int GreatestPenWidth = 5;
+
 /// The looks of one object. Which of it is used is `aspectsOf`'s to say.
 struct ChartStyle {
     GdiPenWrapper pen; ///< its style is one of PS_SOLID to PS_DASHDOTDOT

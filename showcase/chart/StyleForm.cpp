@@ -10,12 +10,12 @@
 #include <stdexcept>
 
 #include "DeskFonts.h"
+#include "chart/ChartStyles.h"
 
 namespace Desk::StyleForm {
 
 namespace {
 
-constexpr long GreatestPenWidth = 5;
 constexpr COLORREF GreatestColor = RGB(255, 255, 255);
 /// At 96 pixels to the inch.
 constexpr int GreatestFontHeight = 100;

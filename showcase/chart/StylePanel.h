@@ -87,7 +87,9 @@ private:
     };
 
     bool createColor(ColorField color, int id);
-    void addFaces();
+    bool createPenRows();
+    bool createFontRows();
+    bool createOpacity();
 
     void takeStyle();
     void arrange();
