@@ -1,6 +1,5 @@
 #include <OrtinFoundation/StringTools.h>
 
-#include <algorithm>
 #include <sstream>
 
 #include "../printing/PrinterOutput.h"
@@ -109,14 +108,9 @@ TEST_F(PrintByKeys, AClickOnTheStatusWindowsCancelEndsAPrintOfManyRows) {
         return status && textOf(::GetDlgItem(status, StatusPageId)).starts_with(L"Strona ");
     }));
     EXPECT_FALSE(::IsWindowEnabled(desk()));
-    const support::Pixels look = pixelsOf(status);
-    std::size_t bright = 0;
-    for (int y = 0; y < look.height(); ++y)
-        for (int x = 0; x < look.width(); ++x)
-            bright += GetGValue(look.at(x, y)) > 0x90 ? 1 : 0;
-    EXPECT_GT(bright, 100U) << "the texts";
-    EXPECT_LT(bright * 10, static_cast<std::size_t>(look.width()) * static_cast<std::size_t>(look.height()))
-        << "and nothing else is light in the black theme";
+    const double bright = pixelsOf(status).shareBrighterThan(0x90);
+    EXPECT_GT(bright, 0) << "the texts";
+    EXPECT_LT(bright, 0.1) << "and nothing else is light in the black theme";
     const HWND cancel = ::GetDlgItem(status, IDCANCEL);
     support::click(onScreen(cancel, scaled(20), scaled(10)));
     EXPECT_TRUE(eventually([&] { return !::IsWindow(status) && ::IsWindowEnabled(desk()); }));
@@ -225,16 +219,8 @@ TEST_F(PrintByKeys, NothingBesideThePagesOfThePreviewIsLightInTheBlackTheme) {
     support::click(onScreen(::GetDlgItem(preview, ZoomInId), 5, 5));
     support::moveMouse(onScreen(preview, scaled(20), scaled(40)));
     settle();
-    const auto brightest = [this](HWND window) {
-        const support::Pixels pixels = pixelsOf(window);
-        int most = 0;
-        for (int y = 0; y < pixels.height(); ++y)
-            for (int x = 0; x < pixels.width(); ++x)
-                most = std::max<int>(most, GetGValue(pixels.at(x, y)));
-        return most;
-    };
     for (const int id : {DownBarId, AcrossBarId})
-        EXPECT_LT(brightest(::GetDlgItem(preview, id)), 0x90) << id;
+        EXPECT_EQ(pixelsOf(::GetDlgItem(preview, id)).shareBrighterThan(0x90), 0) << id;
     const HWND pages = ::GetDlgItem(preview, PagesId);
     RECT whole{};
     RECT client{};

@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "support/ImportPatch.h"
 #include "table/Printers.h"
 
 namespace {
@@ -13,6 +14,10 @@ protected:
     support::ScopedTopLevelWindow m_window{CSize(100, 100)};
     ReachablePreview m_preview;
 };
+
+HWND WINAPI noWindow(DWORD, LPCWSTR, LPCWSTR, DWORD, int, int, int, int, HWND, HMENU, HINSTANCE, void*) {
+    return nullptr;
+}
 
 } // namespace
 
@@ -30,6 +35,20 @@ TEST_F(BarePreview, NeedsAPlaceholder) {
     EXPECT_EQ(0, m_preview.Create(500, &m_window));
     EXPECT_EQ(0, m_preview.Create(500, nullptr));
     EXPECT_EQ(nullptr, m_preview.GetSafeHwnd());
+}
+
+TEST_F(BarePreview, GivesNothingWhereTheSystemMakesNoWindow) {
+    CStatic placeholder;
+    placeholder.Create(L"", WS_CHILD, CRect(0, 0, 80, 80), &m_window, 500);
+    const support::ImportPatch patch(::GetModuleHandleW(L"OrtinMfc.dll"), "user32.dll", "CreateWindowExW", noWindow);
+    EXPECT_EQ(0, m_preview.Create(500, &m_window));
+    EXPECT_EQ(nullptr, m_preview.GetSafeHwnd());
+    EXPECT_EQ(nullptr, m_window.GetDlgItem(500)) << "the placeholder is gone by then";
+}
+
+TEST_F(BarePreview, KnowsItsClass) {
+    const CWnd& window = m_preview;
+    EXPECT_TRUE(window.IsKindOf(RUNTIME_CLASS(PrintPreviewWindow)));
 }
 
 TEST_F(BarePreview, DoesNothingWithoutAWindow) {
@@ -138,6 +157,25 @@ TEST_F(Preview, DrawsEachVisiblePageOnceAnUpdate) {
     EXPECT_EQ("1 2 3 ", document.takeDrawn());
 }
 
+TEST_F(Preview, TellsThePageInWorkAlsoWhereItIsKept) {
+    document.pages = 5;
+    update();
+    info.SetCurrentPage(77);
+    pixels();
+    EXPECT_EQ(2, info.CurrentPage()) << "the last page in view";
+    EXPECT_EQ("1 2 ", document.takeDrawn());
+}
+
+TEST_F(Preview, HasTwoButtonsThatTheKeyboardReaches) {
+    for (const int id : {1, 2}) {
+        EXPECT_EQ(static_cast<DWORD>(WS_CHILD | WS_VISIBLE | WS_TABSTOP),
+                  button(id).GetStyle() & (WS_CHILD | WS_VISIBLE | WS_TABSTOP));
+        CRect rect;
+        button(id).GetWindowRect(&rect);
+        EXPECT_EQ(CSize(40, 20), rect.Size());
+    }
+}
+
 TEST_F(Preview, OfNoPagesIsAnEmptyScene) {
     document.pages = 0;
     update();
@@ -197,6 +235,18 @@ TEST_F(Preview, FitsAWidePageAndLeavesANarrowOne) {
     ASSERT_TRUE(page);
     EXPECT_NEAR(client().cx - 10, page->right - page->left, 1) << "truncated: the scale is not exact";
     EXPECT_FALSE(isBarShown(WS_HSCROLL));
+}
+
+TEST_F(Preview, PutsAnEnlargedPageWhereItWouldStandAtItsOwnSize) {
+    update();
+    scale(0.3);
+    hideButtons();
+    const int left = leftMargin(200);
+    EXPECT_EQ(ColouredPages::colourOf(1), pixels().at(left - 2, 100));
+    preview.ScaleToAvailableArea();
+    const support::Pixels picture = pixels();
+    EXPECT_EQ(kScene, picture.onlyColour({0, 0, left, client().cy}));
+    EXPECT_EQ(ColouredPages::colourOf(1), picture.onlyColour({left, 5, client().cx, 395})) << "the scale stays";
 }
 
 TEST_F(Preview, IsCentredAnewWhenItsSizeChanges) {

@@ -345,6 +345,26 @@ TEST_F(PrintStrategyJobs, KeepTheMainWindowDisabledWhileTheyRun) {
     EXPECT_EQ("10001", states) << "begin, prepare twice, print, end";
 }
 
+TEST_F(PrintStrategyJobs, RegisterBeforeTheyBeginAndLeaveBeforeTheyEnd) {
+    print(); // sets the procedure that tells
+    std::string states;
+    const RecordingPrintable::Hook look = [&](CDC&, PrintInfo&) { states += isRegistered() ? '1' : '0'; };
+    printable.pages = 1;
+    printable.onBegin = printable.onPrepare = printable.onPrint = printable.onEnd = look;
+    print();
+    EXPECT_EQ("11110", states) << "begin, prepare twice, print, end";
+}
+
+TEST_F(PrintStrategyJobs, ShowTheStatusWindowFromAfterTheBeginningUntilAfterTheEnd) {
+    std::string states;
+    const RecordingPrintable::Hook look = [&](CDC&, PrintInfo&) { states += statusWindow() != nullptr ? '1' : '0'; };
+    printable.pages = 1;
+    printable.onBegin = printable.onPrepare = printable.onPrint = printable.onEnd = look;
+    print();
+    EXPECT_EQ("01111", states) << "begin, prepare twice, print, end";
+    EXPECT_EQ(nullptr, statusWindow());
+}
+
 TEST_F(PrintStrategyJobs, RunWithoutAMainWindow) {
     AfxGetApp()->m_pMainWnd = nullptr;
     ::SetActiveWindow(nullptr);

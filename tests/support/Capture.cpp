@@ -138,6 +138,12 @@ std::size_t Pixels::count(COLORREF colour, const RECT& area) const {
     return found;
 }
 
+double Pixels::shareBrighterThan(BYTE green) const {
+    const auto bright = std::count_if(m_colours.begin(), m_colours.end(),
+                                      [green](COLORREF colour) { return GetGValue(colour) > green; });
+    return static_cast<double>(bright) / static_cast<double>(m_colours.size());
+}
+
 std::optional<COLORREF> Pixels::onlyColour(const RECT& area) const {
     const RECT inside = clipped(area);
     if (::IsRectEmpty(&inside)) {

@@ -37,6 +37,8 @@ public:
 
     std::size_t count(COLORREF colour) const { return count(colour, bounds()); }
     std::size_t count(COLORREF colour, const RECT& area) const;
+    /// The share of all pixels with more than that green, which says most of how bright a colour is.
+    double shareBrighterThan(BYTE green) const;
     /// The only colour of `area`, or nothing if there are several or none.
     std::optional<COLORREF> onlyColour(const RECT& area) const;
     /// The smallest rectangle that holds each pixel of this colour.

@@ -52,6 +52,12 @@ TEST(Capture, ColoursAreCountedWithinAHalfOpenRectangle) {
     EXPECT_EQ(50U, pixels.count(red, {-100, -100, 1000, 1000}));
 }
 
+TEST(Capture, TheShareOfBrightColoursIsThatOfTheirGreen) {
+    const Pixels pixels = whiteWithRedCorner();
+    EXPECT_DOUBLE_EQ(1150.0 / 1200.0, pixels.shareBrighterThan(254));
+    EXPECT_EQ(0, pixels.shareBrighterThan(255));
+}
+
 TEST(Capture, AnAreaOfOneColourNamesIt) {
     const Pixels pixels = whiteWithRedCorner();
     EXPECT_EQ(red, pixels.onlyColour({0, 0, 10, 5}));
