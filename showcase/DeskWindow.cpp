@@ -365,6 +365,14 @@ void DeskWindow::onSwitch(StripSwitch which) {
     }
 }
 
+/// Rows that run by themselves have no place in the table, which the rows that are seen could be counted from.
+void DeskWindow::stopAutoscroll() {
+    if (!m_autoscroll)
+        return;
+    onSwitch(StripSwitch::Autoscroll);
+    m_body->UpdateWindow();
+}
+
 void DeskWindow::setTheme(DeskTheme theme) {
     m_settings.theme = theme;
     SystemColors::SetThemeColor(theme == DeskTheme::Black ? EThemeColor::BlackTheme : EThemeColor::WhiteTheme);

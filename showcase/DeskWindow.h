@@ -87,6 +87,7 @@ private:
     void showInstrument();
     void placeWindows();
     void showCounts();
+    void stopAutoscroll();
     void saveSettingsOnce();
     void paintCorner(CDC& dc);
     CRect cornerRect();

@@ -122,9 +122,11 @@ void DeskWindow::run(Command command) {
         fitAllColumns();
         break;
     case Command::Print:
+        stopAutoscroll();
         report(m_printing.askAndPrint(*this));
         break;
     case Command::Preview:
+        stopAutoscroll();
         report(m_printing.showPreview(*this));
         break;
     case Command::ShowInfo:

@@ -6,8 +6,6 @@
 
 #include <OrtinControls/ITableHandler.h>
 
-#include "../graphics/Rounding.h"
-
 void TableList::noteMovedRows() {
     m_scrollDirty = true;
     requestFullRedraw();
@@ -76,9 +74,7 @@ std::vector<int> TableList::pagesOfRows(int pageHeight, Pagination::RowRange ran
 }
 
 Pagination::VisiblePages TableList::pagesOfVisibleRows(int pageHeight) const {
-    // While the content runs the bar stands at 0; from its end on it repeats in view, which a run of rows cannot.
-    const int scrollPosition = autoscrollIsOn() ? truncateToInt(m_autoscrollPos) : effectiveScrollPos();
-    return Pagination::ofVisibleRows(m_rows.rows(), pageHeight, clientHeight(), scrollPosition);
+    return Pagination::ofVisibleRows(m_rows.rows(), pageHeight, clientHeight(), effectiveScrollPos());
 }
 
 void TableList::askHeight(int row) {

@@ -13,10 +13,10 @@
 /// header is not printed; a handler that wants a title or a header draws the page itself in `DrawPrintRequestedItems`.
 ///
 /// Choices of a print run: all rows, pages of them, the rows of the selection, and as an added choice of id 0 the rows
-/// that the view shows, also while its content runs by itself: then up to the last row. Any other choice has no pages.
-/// Pages break one row earlier than they must, but the row before the break is not counted on the new page, nor is the
-/// last row of the run: a page may be longer than the sheet by up to these two rows. The first page has no rows where
-/// its first row fills it, alone or with the second one.
+/// that the view shows; while its content runs by itself these count from the top, so that a host stops it before. Any
+/// other choice has no pages. Pages break one row earlier than they must, but the row before the break is not counted
+/// on the new page, nor is the last row of the run: a page may be longer than the sheet by up to these two rows. The
+/// first page has no rows where its first row fills it, alone or with the second one.
 class ORTIN_CONTROLS_API TableCtrlPrintable : public TableCtrl, public IPrintable {
 public:
     TableCtrlPrintable();
