@@ -42,7 +42,7 @@ protected:
         EXPECT_TRUE(eventually([&] {
             found = ::FindWindowW(nullptr, title);
             return found && ::IsWindowVisible(found) && ::GetForegroundWindow() == found;
-        })) << "no dialog";
+        })) << "no dialog: " << title;
         return found;
     }
     static bool isOpen(const wchar_t* title) { return ::FindWindowW(nullptr, title) != nullptr; }
