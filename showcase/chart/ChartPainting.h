@@ -36,6 +36,7 @@ private:
     void drawLabels();
     void drawTool();
     void drawControlPoints();
+    void fillBars(const Points& points, VectorCanvas::DrawContextGdiLineAndFill& style);
     void drawText(const std::wstring& text, const CRect& area, VectorCanvas::DrawContextGdiText& style,
                   unsigned int format);
     void drawTag(const std::wstring& text, const CRect& area, COLORREF ground, unsigned int id);

@@ -75,11 +75,12 @@ ChartChange ChartGestures::press(const ChartMouse& mouse, const ChartFrame& fram
 }
 
 ChartChange ChartGestures::pressObject(const ChartMouse& mouse, const ChartFrame& frame) {
-    const ChartChange change = select(mouse.over);
-    if (mouse.over.kind == ChartObject::Kind::Line && mouse.over.index < m_lines.lineCount()) {
-        const TrendLine& line = m_lines.line(mouse.over.index);
+    const ChartObject over = known(mouse.over);
+    const ChartChange change = select(over);
+    if (over.kind == ChartObject::Kind::Line) {
+        const TrendLine& line = m_lines.line(over.index);
         const LineGrip grip = gripAt(line, pixelAt(mouse.at), GripReach, frame.time, frame.prices);
-        m_drag = Reshaping{mouse.over.index, grip, line, pixelAt(mouse.at)};
+        m_drag = Reshaping{over.index, grip, line, pixelAt(mouse.at)};
     } else if (frame.inPlots(mouse.at.x, mouse.at.y)) {
         m_drag = Panning{mouse.at.x, frame.time.candleWidth(), m_state.range};
     }
@@ -126,8 +127,13 @@ ChartChange ChartGestures::hover(const ChartMouse& mouse, const ChartFrame& fram
     const std::optional<ChartPosition> crossHair = isOverPlot ? std::optional(mouse.at) : std::nullopt;
     change.crossHair = std::exchange(m_state.crossHair, crossHair) != crossHair;
     if (!isDragging())
-        change.picture = std::exchange(m_state.hovered, mouse.over) != mouse.over;
+        change.picture = hoverOver(known(mouse.over));
     return change;
+}
+
+/// Whether the picture is another one then.
+bool ChartGestures::hoverOver(const ChartObject& object) {
+    return std::exchange(m_state.hovered, object) != object;
 }
 
 ChartChange ChartGestures::follow(Panning& drag, const ChartMouse& mouse, const ChartFrame&) {
@@ -171,7 +177,7 @@ ChartChange ChartGestures::leave() {
     if (isDragging())
         return change;
     change.crossHair = std::exchange(m_state.crossHair, std::nullopt).has_value();
-    change.picture = std::exchange(m_state.hovered, ChartObject{}) != ChartObject{};
+    change.picture = hoverOver({});
     return change;
 }
 
@@ -301,6 +307,12 @@ ChartChange ChartGestures::startSeries(std::size_t candles) {
     if (m_state.selected.kind == ChartObject::Kind::Line || isPart(m_state.selected, ChartPart::Range))
         m_state.selected = {};
     return {.picture = true, .crossHair = true, .range = true, .selection = true};
+}
+
+/// The picture may still show a line that is gone.
+ChartObject ChartGestures::known(const ChartObject& object) const {
+    const bool isGone = object.kind == ChartObject::Kind::Line && object.index >= m_lines.lineCount();
+    return isGone ? ChartObject{} : object;
 }
 
 std::size_t ChartGestures::candleAt(int x, const ChartFrame& frame) const {

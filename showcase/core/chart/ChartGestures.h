@@ -86,6 +86,7 @@ private:
     ChartChange follow(Reshaping& drag, const ChartMouse& mouse, const ChartFrame& frame);
     ChartChange follow(DrawingLine& drag, const ChartMouse& mouse, const ChartFrame& frame);
     ChartChange hover(const ChartMouse& mouse, const ChartFrame& frame);
+    bool hoverOver(const ChartObject& object);
     ChartChange abandonDrag();
     ChartChange removeSelected();
     ChartChange removeLine(std::size_t line);
@@ -93,6 +94,7 @@ private:
     ChartChange pan(double share);
     ChartChange zoom(double factor, double anchor);
     ChartChange leaveOne();
+    ChartObject known(const ChartObject& object) const;
     std::size_t candleAt(int x, const ChartFrame& frame) const;
 
     ChartState& m_state;

@@ -1,0 +1,258 @@
+#include <algorithm>
+
+#include "DeskProcess.h"
+#include "chart/ChartPane.h"
+#include "chart/ChartStyles.h"
+#include "support/Pump.h"
+#include "support/RealInput.h"
+
+namespace {
+
+constexpr int ChartId = 5;
+
+/// A desk with the chart of S00, whose invented candles are always the same.
+class ChartByMouse : public DeskOnScreen {
+protected:
+    HWND canvas() const { return ::GetDlgItem(::GetDlgItem(desk(), ChartId), Desk::ChartPane::CanvasId); }
+    HWND bar() const { return ::GetDlgItem(::GetDlgItem(desk(), ChartId), Desk::ChartPane::BarId); }
+    HWND panel() const { return ::GetDlgItem(::GetDlgItem(desk(), ChartId), Desk::ChartPane::PanelId); }
+
+    SIZE sizeOf(HWND window) const {
+        RECT area{};
+        ::GetClientRect(window, &area);
+        return {area.right, area.bottom};
+    }
+    /// A point of the canvas by its shares of the width and the height.
+    POINT at(double x, double y) const {
+        const SIZE size = sizeOf(canvas());
+        return onScreen(canvas(), static_cast<int>(size.cx * x), static_cast<int>(size.cy * y));
+    }
+    /// Where the mouse lies on nothing of the chart.
+    void park() const {
+        // Wine tells of a mouse that has left after its time for hovering.
+        constexpr auto Hovering = std::chrono::milliseconds(600);
+        support::moveMouse(onScreen(statusLine(), scaled(300), 4));
+        support::pumpFor(Hovering);
+        settle();
+    }
+    support::Pixels chart() const {
+        park();
+        return pixelsOf(canvas());
+    }
+    /// The rows of the thumb's ends in the bar, as its colours tell them.
+    std::pair<int, int> thumb() const {
+        const support::Pixels shown = pixelsOf(bar());
+        const int y = shown.height() / 2;
+        const COLORREF track = shown.at(1, y);
+        int left = 1;
+        while (left < shown.width() && shown.at(left, y) == track)
+            ++left;
+        int right = shown.width() - 1;
+        while (right > left && shown.at(right, y) == track)
+            --right;
+        return {left, right};
+    }
+    /// With the focus in the chart, but on none of its objects.
+    void takeTool() const { support::typeKey('L'); }
+    COLORREF lineColour() const {
+        return Desk::defaultStyles(Desk::DeskTheme::White)[static_cast<std::size_t>(Desk::ChartPart::NewLine)]
+            .pen.Color();
+    }
+    std::size_t linePixels() const { return chart().count(lineColour()); }
+    /// Puts the focus into the chart by a press on its tool, twice.
+    void focusChart() const {
+        const SIZE size = sizeOf(canvas());
+        const POINT tool = onScreen(canvas(), size.cx - scaled(30), scaled(14));
+        support::click(tool);
+        support::pumpFor(std::chrono::milliseconds(::GetDoubleClickTime() + 50));
+        support::click(tool);
+        settle();
+    }
+    void drawLine() const {
+        takeTool();
+        support::drag(at(0.2, 0.5), at(0.6, 0.3));
+        settle();
+    }
+};
+
+} // namespace
+
+TEST_F(ChartByMouse, ALineIsDrawnDraggedByItsEndSelectedAndDeleted) {
+    start();
+    focusChart();
+    const support::Pixels without = chart();
+    ASSERT_EQ(linePixels(), 0u);
+    drawLine();
+    const support::Pixels drawn = chart();
+    const std::size_t pixels = drawn.count(lineColour());
+    EXPECT_GT(pixels, 50u);
+    const std::optional<RECT> before = drawn.boundsOf(lineColour());
+
+    // Longer by its right end; the left one stays.
+    support::drag(at(0.6, 0.3), at(0.7, 0.45));
+    const support::Pixels dragged = chart();
+    const std::optional<RECT> after = dragged.boundsOf(lineColour());
+    ASSERT_TRUE(before && after);
+    EXPECT_NEAR(after->left, before->left, 3);
+    EXPECT_NEAR(after->right, before->right + sizeOf(canvas()).cx * 0.1, 4);
+
+    // Let go, taken again by its middle, removed.
+    support::typeKey(VK_ESCAPE);
+    settle();
+    const support::Pixels nothingSelected = pixelsOf(panel());
+    support::click(at(0.45, 0.475));
+    EXPECT_TRUE(eventually([&] { return pixelsOf(panel()) != nothingSelected; }));
+    support::typeKey(VK_DELETE);
+    EXPECT_TRUE(eventually([&] { return chart() == without; }));
+}
+
+TEST_F(ChartByMouse, EscapeInADragPutsTheLineBack) {
+    start();
+    focusChart();
+    drawLine();
+    const support::Pixels drawn = chart();
+    support::moveMouse(at(0.6, 0.3));
+    support::pressButton();
+    support::moveMouse(at(0.4, 0.6));
+    settle();
+    support::typeKey(VK_ESCAPE);
+    settle();
+    support::releaseButton();
+    EXPECT_TRUE(samePixels(chart(), drawn));
+}
+
+TEST_F(ChartByMouse, ShiftAndADragSelectARangeAndDeleteRemovesIt) {
+    start();
+    focusChart();
+    const support::Pixels without = chart();
+    {
+        support::moveMouse(at(0.3, 0.4));
+        settle();
+        const support::HeldKey shift(VK_SHIFT);
+        support::pressButton();
+        support::moveMouse(at(0.45, 0.4));
+        support::moveMouse(at(0.5, 0.4));
+        support::releaseButton();
+        settle();
+    }
+    const support::Pixels with = chart();
+    const std::optional<support::Difference> changed = support::difference(with, without);
+    ASSERT_TRUE(changed);
+    EXPECT_NEAR(changed->bounds.left, with.width() * 0.3, scaled(16));
+    EXPECT_NEAR(changed->bounds.right, with.width() * 0.5, scaled(16));
+    support::typeKey(VK_DELETE);
+    EXPECT_TRUE(eventually([&] { return chart() == without; }));
+}
+
+TEST_F(ChartByMouse, ADragOnThePlotMovesTheChartAndTheBar) {
+    start();
+    const auto [left, right] = thumb();
+    support::drag(at(0.3, 0.2), at(0.7, 0.2));
+    settle();
+    EXPECT_LT(thumb().first, left);
+    EXPECT_NEAR(thumb().second - thumb().first, right - left, 1);
+}
+
+TEST_F(ChartByMouse, TheWheelMovesAndWithCtrlZooms) {
+    start();
+    const auto [left, right] = thumb();
+    support::turnWheel(at(0.5, 0.3), -WHEEL_DELTA);
+    EXPECT_TRUE(eventually([&] { return thumb().first < left; }));
+    EXPECT_NEAR(thumb().second - thumb().first, right - left, 1);
+    support::turnWheel(at(0.5, 0.3), WHEEL_DELTA);
+    EXPECT_TRUE(eventually([&] { return thumb() == std::pair(left, right); }));
+    {
+        const support::HeldKey control(VK_CONTROL);
+        for (int notch = 0; notch < 4; ++notch)
+            support::turnWheel(at(0.5, 0.3), -WHEEL_DELTA);
+        EXPECT_TRUE(eventually([&] { return thumb().second - thumb().first > (right - left) * 5 / 4; }));
+    }
+}
+
+TEST_F(ChartByMouse, TheBarDrivesTheChartAndAnEdgeOfItZooms) {
+    start();
+    const support::Pixels before = chart();
+    const auto [left, right] = thumb();
+    const int middle = sizeOf(bar()).cy / 2;
+    support::drag(onScreen(bar(), (left + right) / 2, middle),
+                  onScreen(bar(), (left + right) / 2 - scaled(100), middle));
+    settle();
+    EXPECT_NEAR(thumb().first, left - scaled(100), 2);
+    const support::Pixels moved = chart();
+    EXPECT_TRUE(moved != before);
+    const auto [movedLeft, movedRight] = thumb();
+    support::drag(onScreen(bar(), movedLeft - 2, middle), onScreen(bar(), movedLeft - scaled(80), middle));
+    settle();
+    EXPECT_NEAR(thumb().first, movedLeft - scaled(80), 4);
+    EXPECT_NEAR(thumb().second, movedRight, 2);
+    EXPECT_TRUE(chart() != moved);
+}
+
+TEST_F(ChartByMouse, ShowsTheInstrumentOfTheCaretRow) {
+    start();
+    support::click(cell(0, 1));
+    const support::Pixels first = chart();
+    support::typeKey(VK_DOWN);
+    EXPECT_TRUE(eventually([&] { return chart() != first; }));
+    support::typeKey(VK_UP);
+    EXPECT_TRUE(eventually([&] { return chart() == first; }));
+}
+
+TEST_F(ChartByMouse, KeysOfTheChartMoveItAndEscapeGoesBackToTheRows) {
+    start();
+    focusChart();
+    const auto first = thumb();
+    support::typeKey(VK_HOME);
+    EXPECT_TRUE(eventually([&] { return thumb().first < first.first; }));
+    support::typeKey(VK_END);
+    EXPECT_TRUE(eventually([&] { return thumb() == first; }));
+    support::typeKey(VK_ESCAPE);
+    settle();
+    support::typeKey(VK_END);
+    EXPECT_EQ(copiedSymbols(), "S59");
+}
+
+TEST_F(ChartByMouse, TheCrossHairFollowsTheMouseAndGoesWithIt) {
+    start();
+    const support::Pixels without = chart();
+    support::moveMouse(at(0.5, 0.2));
+    EXPECT_TRUE(eventually([&] { return pixelsOf(canvas()) != without; }));
+    EXPECT_TRUE(samePixels(chart(), without));
+}
+
+TEST_F(ChartByMouse, AnInstrumentThatTheFileDoesNotHaveIsASentenceAndTheStartIsAtOneThatItHas) {
+    const auto file = m_folder.write(L"candles.csv", "Symbol,Date,Open,High,Low,Close,Volume\n"
+                                                     "S07,2015-01-02,10,12,9,11,100\n"
+                                                     "S07,2015-01-05,11,13,10,12,100\n");
+    start({L"--candles", file.wstring()});
+    support::click(onScreen(statusLine(), scaled(300), 4));
+    EXPECT_EQ(copiedSymbols(), "S07");
+    const support::Pixels candles = chart();
+    support::typeKey(VK_UP);
+    EXPECT_TRUE(eventually([&] { return chart() != candles; }));
+    // Nothing but the sentence.
+    const support::Pixels sentence = chart();
+    EXPECT_TRUE(sentence.onlyColour({0, 0, sentence.width(), sentence.height() / 3}));
+    EXPECT_FALSE(sentence.onlyColour({0, sentence.height() / 3, sentence.width(), sentence.height() * 2 / 3}));
+}
+
+TEST_F(ChartByMouse, ALineIsThereAgainAtTheNextStart) {
+    start();
+    focusChart();
+    drawLine();
+    const std::size_t pixels = linePixels();
+    EXPECT_GT(pixels, 50u);
+    close();
+    start();
+    EXPECT_NEAR(static_cast<double>(linePixels()), static_cast<double>(pixels), 40);
+}
+
+TEST(BadCandles, EndWithCode2AndOneLineThatNamesThePlace) {
+    const TemporaryFolder folder;
+    const auto file = folder.write(L"bad.csv", "Symbol,Date,Open,High,Low,Close,Volume\nA,2015-01-02,10,9,8,8.5,100\n");
+    const DeskRun run = runDesk({L"--candles", file.wstring()});
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_NE(run.errors.find("bad.csv"), std::string::npos) << run.errors;
+    EXPECT_EQ(std::count(run.errors.begin(), run.errors.end(), '\n'), 1) << run.errors;
+    EXPECT_EQ(run.output, "");
+}
