@@ -70,6 +70,8 @@ void ChartPainting::draw(VectorCanvas::IVectorPainter& painter, const ChartModel
     m_model = &model;
     m_frame = &frame;
     painter.Clear(Colors::rowBackground());
+    // A device that is new fills the gaps of dashes, and what was drawn before decides on one that is not.
+    ::SetBkMode(painter.GetSource(), TRANSPARENT);
     if (model.candles().empty()) {
         const CSize size = painter.GetViewport();
         drawText(model.missing(), CRect(CPoint(0, 0), size), m_contexts.missing,

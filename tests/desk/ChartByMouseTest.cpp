@@ -155,17 +155,18 @@ TEST_F(ChartByMouse, ADragOnThePlotMovesTheChartAndTheBar) {
 
 TEST_F(ChartByMouse, TheWheelMovesAndWithCtrlZooms) {
     start();
-    const auto [left, right] = thumb();
+    const std::pair<int, int> before = thumb();
+    const int width = before.second - before.first;
     support::turnWheel(at(0.5, 0.3), -WHEEL_DELTA);
-    EXPECT_TRUE(eventually([&] { return thumb().first < left; }));
-    EXPECT_NEAR(thumb().second - thumb().first, right - left, 1);
+    EXPECT_TRUE(eventually([&] { return thumb().first < before.first; }));
+    EXPECT_NEAR(thumb().second - thumb().first, width, 1);
     support::turnWheel(at(0.5, 0.3), WHEEL_DELTA);
-    EXPECT_TRUE(eventually([&] { return thumb() == std::pair(left, right); }));
+    EXPECT_TRUE(eventually([&] { return thumb() == before; }));
     {
         const support::HeldKey control(VK_CONTROL);
         for (int notch = 0; notch < 4; ++notch)
             support::turnWheel(at(0.5, 0.3), -WHEEL_DELTA);
-        EXPECT_TRUE(eventually([&] { return thumb().second - thumb().first > (right - left) * 5 / 4; }));
+        EXPECT_TRUE(eventually([&] { return thumb().second - thumb().first > width * 5 / 4; }));
     }
 }
 

@@ -168,6 +168,13 @@ TEST_F(ChartPainted, FitsAnyRoom) {
     EXPECT_TRUE(pixelOf(lineObject(0)));
 }
 
+TEST_F(ChartPainted, ThePictureOfANewSurfaceIsThatOfAnOldOne) {
+    open(2000, DeskTheme::Black);
+    const support::Pixels first = picture();
+    m_pane->apply({.picture = true});
+    EXPECT_TRUE(samePixels(picture(), first));
+}
+
 // What a move of the mouse costs
 
 TEST_F(ChartPainted, AMoveOfTheMouseMakesNoPictureButOverAnotherObject) {
