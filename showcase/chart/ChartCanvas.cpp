@@ -149,9 +149,12 @@ void ChartCanvas::OnLButtonDown(UINT flags, CPoint point) {
     apply(change);
 }
 
-void ChartCanvas::OnLButtonUp(UINT, CPoint) {
-    if (GetCapture() == this)
-        ReleaseCapture();
+void ChartCanvas::OnLButtonUp(UINT flags, CPoint point) {
+    if (GetCapture() != this)
+        return;
+    // The release may lie farther on than the last move that was told.
+    apply(m_model.gestures().move(mouseAt(point, flags), m_frame));
+    ReleaseCapture();
 }
 
 /// The end of each drag, whoever brought it about.
