@@ -1,6 +1,7 @@
 #include "ChartContexts.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "DeskColors.h"
 #include "DeskFonts.h"
@@ -20,8 +21,30 @@ void setPen(VectorCanvas::DrawContextGdiLine& context, unsigned int style, int w
     context.UpdateContext(pen.GetHPEN());
 }
 
+/// The lengths that GDI+ itself gives to these styles, in widths of the pen.
+std::vector<float> dashesOf(unsigned int lineStyle) {
+    switch (lineStyle) {
+    case PS_DASH:
+        return {3, 1};
+    case PS_DOT:
+        return {1, 1};
+    case PS_DASHDOT:
+        return {3, 1, 1, 1};
+    default:
+        return {3, 1, 1, 1, 1, 1};
+    }
+}
+
 void setPen(VectorCanvas::DrawContextGdiLine& context, const ChartStyle& style) {
-    setPen(context, style.pen.LineStyle(), scaledPen(style.pen.Width(), style.pen.LineStyle()), style.pen.Color());
+    const unsigned int lineStyle = style.pen.LineStyle();
+    const int width = scaledPen(style.pen.Width(), lineStyle);
+    if (lineStyle == PS_SOLID || width == 1) {
+        setPen(context, lineStyle, width, style.pen.Color());
+        return;
+    }
+    // A system that has dashes in pens of one pixel only makes a wider pen solid, and the context would copy that.
+    setPen(context, PS_SOLID, width, style.pen.Color());
+    context.SetCustomDashStyle(dashesOf(lineStyle));
 }
 
 void setFont(VectorCanvas::DrawContextGdiText& context, GdiFontWrapper font, COLORREF color) {

@@ -78,9 +78,11 @@ void ChartModel::takeLines() {
 
 void ChartModel::setSelectedStyle(const ChartStyle& style) {
     const ChartObject& selected = m_state.selected;
-    if (selected.kind == ChartObject::Kind::Line)
+    if (selected.kind == ChartObject::Kind::Line) {
         m_lines[selected.index].style = style;
-    else if (selected.kind == ChartObject::Kind::Part)
+        // The next line looks like the one that the user has styled last.
+        m_memory.stylesOf(m_theme)[static_cast<std::size_t>(ChartPart::NewLine)] = style;
+    } else if (selected.kind == ChartObject::Kind::Part)
         m_memory.stylesOf(m_theme)[selected.index] = style;
 }
 

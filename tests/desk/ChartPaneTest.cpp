@@ -61,6 +61,45 @@ TEST_F(ChartOfAHost, AStyleChangesTheSelectedObjectOfTheThemeOnly) {
     EXPECT_EQ(model.styleOfLine(0).pen.Color(), RGB(1, 2, 3));
 }
 
+TEST_F(ChartOfAHost, TheNextLineLooksLikeTheOneThatWasStyledLast) {
+    ChartModel model(CandleSource(CandleBook{{"A", wavingCandles(50)}}), ChartMemory());
+    const Instrument a = named("A");
+    model.show(&a);
+    model.addLine({});
+    model.gestures().select(lineObject(0));
+    ChartStyle style = model.styleOfLine(0);
+    style.pen = GdiPenWrapper(PS_DOT, 4, RGB(1, 2, 3));
+    model.setSelectedStyle(style);
+    model.addLine({});
+    EXPECT_EQ(model.styleOfLine(1).pen.Color(), RGB(1, 2, 3));
+    EXPECT_EQ(model.styleOfLine(1).pen.Width(), 4);
+    model.setTheme(DeskTheme::Black);
+    model.addLine({});
+    EXPECT_NE(model.styleOfLine(2).pen.Color(), RGB(1, 2, 3));
+}
+
+TEST_F(ChartOfAHost, DashesOfAWideLineComeFromNoPenOfTheSystem) {
+    ChartModel model(CandleSource(CandleBook{{"A", wavingCandles(50)}}), ChartMemory());
+    const Instrument a = named("A");
+    model.show(&a);
+    model.addLine({});
+    model.gestures().select(lineObject(0));
+    ChartContexts contexts;
+    for (const auto& [dashes, count] : {std::pair(PS_DASH, 2), {PS_DOT, 2}, {PS_DASHDOT, 4}, {PS_DASHDOTDOT, 6}}) {
+        ChartStyle style = model.styleOfLine(0);
+        style.pen.FromDescription(static_cast<unsigned int>(dashes), 3, RGB(1, 2, 3));
+        model.setSelectedStyle(style);
+        contexts.updateLine(model, 0);
+        EXPECT_EQ(contexts.line.GetLOGPEN().lopnStyle, UINT{PS_SOLID});
+        EXPECT_EQ(contexts.line.GetPen().GetDashPatternCount(), count);
+    }
+    ChartStyle style = model.styleOfLine(0);
+    style.pen.LineStyle(PS_SOLID);
+    model.setSelectedStyle(style);
+    contexts.updateLine(model, 0);
+    EXPECT_EQ(contexts.line.GetPen().GetDashStyle(), Gdiplus::DashStyleSolid);
+}
+
 TEST_F(ChartOfAHost, ThePanelGoesWhereThereIsNoRoomForItAndTheCanvasTakesItsPlace) {
     open(200);
     CWnd& panel = *m_pane->GetDlgItem(ChartPane::PanelId);
