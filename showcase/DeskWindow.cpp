@@ -94,10 +94,12 @@ DeskWindow::~DeskWindow() {
 BOOL DeskWindow::open() {
     CRect rect(0, 0, scaled(StartWidth), scaled(StartHeight));
     CalcWindowRect(&rect, WS_OVERLAPPEDWINDOW);
+    CRect screen(rect);
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
     return CreateEx(
         0, AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW), nullptr, AfxGetApp()->LoadIcon(IconId)),
-        L"OrtinDesk – notowania", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT, rect.Width(),
-        rect.Height(), nullptr, nullptr);
+        L"OrtinDesk – notowania", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT,
+        std::min(rect.Width(), screen.Width()), std::min(rect.Height(), screen.Height()), nullptr, nullptr);
 }
 
 BOOL DeskWindow::PreCreateWindow(CREATESTRUCT& create) {

@@ -9,6 +9,17 @@ bool isPng(const std::filesystem::path& file) {
     return bytesOf(file).starts_with("\x89PNG\r\n\x1A\n");
 }
 
+SIZE sizeOfPng(const std::filesystem::path& file) {
+    const std::string bytes = bytesOf(file);
+    const auto numberAt = [&bytes](std::size_t first) {
+        int number = 0;
+        for (std::size_t at = first; at < first + 4; ++at)
+            number = number << 8 | static_cast<unsigned char>(bytes.at(at));
+        return number;
+    };
+    return {numberAt(16), numberAt(20)};
+}
+
 } // namespace
 
 TEST(Shots, WriteEverySceneThatNeedsNoPrinterIntoAFolderThatIsMadeAndNameIt) {
@@ -34,6 +45,16 @@ TEST(Shots, AreTheSameEachTimeAndForOneSceneAlone) {
     ASSERT_EQ(runDesk({L"--shots", folder.file(L"c").wstring(), L"--scene", L"table-found"}).exitCode, 0);
     EXPECT_EQ(bytesOf(folder.file(L"a\\table-found.png")), bytesOf(folder.file(L"c\\table-found.png")));
     EXPECT_FALSE(std::filesystem::exists(folder.file(L"c\\table-white.png")));
+}
+
+TEST(Shots, AreNoLargerThanTheScreen) {
+    const TemporaryFolder folder;
+    ASSERT_EQ(runDesk({L"--shots", folder.file(L"a").wstring(), L"--scene", L"chart-white"}).exitCode, 0);
+    RECT screen{};
+    ASSERT_TRUE(::SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0));
+    const SIZE size = sizeOfPng(folder.file(L"a\\chart-white.png"));
+    EXPECT_LE(size.cx, screen.right - screen.left);
+    EXPECT_LE(size.cy, screen.bottom - screen.top);
 }
 
 TEST(Shots, ShowAListWithoutInstruments) {
