@@ -85,8 +85,9 @@ CRect ChartOverlay::legendArea() const {
 std::optional<ChartOverlay::Label> ChartOverlay::valueLabel(CPoint cross) const {
     const ChartLayout& layout = m_frame.layout;
     const bool isPrice = layout.prices.holds(cross.x, cross.y);
-    const std::wstring text = isPrice ? priceText(m_frame.prices.valueAt(cross.y + 0.5), m_frame.priceGrid.decimals)
-                                      : formatLargeSum(std::max(0.0, m_frame.volumes.valueAt(cross.y + 0.5)));
+    const std::wstring text = isPrice
+                                  ? singlePriceText(m_frame.prices.valueAt(cross.y + 0.5), m_frame.priceGrid.decimals)
+                                  : formatLargeSum(std::max(0.0, m_frame.volumes.valueAt(cross.y + 0.5)));
     const int half = m_fonts.lineHeight() / 2 + 1;
     return Label{text, CRect(layout.priceAxis.left + 1, cross.y - half, layout.priceAxis.right, cross.y + half + 1)};
 }
@@ -143,7 +144,7 @@ void ChartOverlay::drawLegend(CDC& dc) {
     const std::size_t behind = isPointed ? column().last : m_model.candles().size();
     const std::optional<double> average =
         behind >= AveragePeriod ? std::optional(m_model.average()[behind - AveragePeriod]) : std::nullopt;
-    const auto values = legendOf(candle, average);
+    const auto values = legendOf(candle, average, m_frame.priceGrid.decimals);
 
     CRect area = legendArea();
     area.left += scaled(LegendMargin);

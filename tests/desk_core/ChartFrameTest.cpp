@@ -68,6 +68,16 @@ TEST(ChartFrame, MarksTheFirstColumnWithTheGreatestHighAndThatWithTheGreatestVol
     EXPECT_EQ(frame.busiest, 12u);
 }
 
+TEST(ChartFrame, VolumesOfNothingHaveNoHeightNoGridAndNoAlert) {
+    Candles candles = risingCandles(50);
+    for (Candle& candle : candles)
+        candle.volume = 0;
+    const ChartFrame frame = frameOf(candles, {});
+    EXPECT_EQ(frame.volumes.yOf(0), frame.layout.volumes.bottom);
+    EXPECT_TRUE(frame.volumeGrid.values.empty());
+    EXPECT_FALSE(frame.busiest);
+}
+
 TEST(ChartFrame, OfASeriesWithoutCandlesHasNothingToShow) {
     const ChartFrame frame = frameOf({}, {});
     EXPECT_TRUE(frame.columns.empty());
@@ -170,13 +180,23 @@ TEST(ObjectNear, TakesTheLineWithinReachBeforeWhatLiesRightUnderTheMouse) {
 }
 
 TEST(ChartTexts, TellTheValuesOfACandleAsPolesWriteThem) {
-    const auto values = legendOf({{}, 1111.39, 1200, 0.5, 1101.5, 53204626}, 1105.25);
+    const auto values = legendOf({{}, 1111.39, 1200, 0.5, 1101.5, 53204626}, 1105.25, 0);
     std::wstring text;
     for (const LegendValue& value : values)
         text += value.name + L"=" + value.value + L";";
     EXPECT_EQ(text,
               L"O=1\u00A0111,39;H=1\u00A0200,00;L=0,50;C=1\u00A0101,50;Wol.=53,20\u00A0mln;Śr. 20=1\u00A0105,25;");
-    EXPECT_EQ(legendOf({}, std::nullopt).back().value, Dash);
+    EXPECT_EQ(legendOf({}, std::nullopt, 0).back().value, Dash);
+}
+
+TEST(ChartTexts, TellPricesMoreFinelyThanAGridThatNeedsMoreThanTwoDecimals) {
+    const auto values = legendOf({{}, 1.09421, 1.0951, 1.0938, 1.09452, 1}, 1.09438, 3);
+    EXPECT_EQ(values[0].value, L"1,0942");
+    EXPECT_EQ(values[3].value, L"1,0945");
+    EXPECT_EQ(values[5].value, L"1,0944");
+    EXPECT_EQ(singlePriceText(1234.5, 2), L"1\u00A0234,50");
+    EXPECT_EQ(singlePriceText(0.000142, 5), L"0,000142");
+    EXPECT_EQ(singlePriceText(0.000142, 0), L"0,00014");
 }
 
 TEST(ChartTexts, TellHowARangeChanged) {

@@ -58,14 +58,15 @@ void layOutFrame(ChartFrame& frame, const Candles& candles, const std::vector<do
     candleColumns(candles, frame.time, frame.columns);
     const PriceSpan span = priceSpan(frame.columns, PriceMargin);
     frame.prices = PriceScale(span.low, span.high, plot.top, plot.bottom);
-    frame.volumes =
-        PriceScale(0, greatestVolume(frame.columns) * (1 + VolumeMargin), volumePlot.top, volumePlot.bottom);
+    const double volume = greatestVolume(frame.columns);
+    const bool isTraded = volume > 0;
+    frame.volumes = PriceScale(0, isTraded ? volume * (1 + VolumeMargin) : 1, volumePlot.top, volumePlot.bottom);
     frame.priceGrid = priceGrid(frame.prices, measures.priceDistance);
-    frame.volumeGrid = priceGrid(frame.volumes, measures.priceDistance);
+    frame.volumeGrid = isTraded ? priceGrid(frame.volumes, measures.priceDistance) : PriceGrid{};
     frame.dates = dateGrid(candles, frame.time, measures.dateDistance);
     layOutAverage(frame, average);
     frame.highest = greatest(frame.columns, &Candle::high);
-    frame.busiest = greatest(frame.columns, &Candle::volume);
+    frame.busiest = isTraded ? greatest(frame.columns, &Candle::volume) : std::nullopt;
 }
 
 std::optional<ClippedLine> clipped(const ChartPixel& from, const ChartPixel& to, const ChartArea& area, double margin) {

@@ -44,7 +44,7 @@ struct ChartFrame {
     /// One for each column that has one, at its middle.
     std::vector<ChartPixel> average;
     std::optional<std::size_t> highest; ///< the column with the greatest high, the first of them
-    std::optional<std::size_t> busiest; ///< the column with the greatest volume, the first of them
+    std::optional<std::size_t> busiest; ///< the column with the greatest volume, the first of them; none if all are 0
 
     /// Whether a pixel lies in one of the two plots.
     bool inPlots(int x, int y) const { return layout.prices.holds(x, y) || layout.volumes.holds(x, y); }

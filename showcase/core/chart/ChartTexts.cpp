@@ -8,23 +8,27 @@ namespace Desk {
 
 namespace {
 
-constexpr int PriceDecimals = 2;
 constexpr std::size_t MostNamedSymbols = 12;
 
 } // namespace
 
 std::wstring priceText(double price, int decimals) {
-    return formatNumber(price, std::max(decimals, PriceDecimals));
+    return formatNumber(price, std::max(decimals, LeastPriceDecimals));
 }
 
-std::array<LegendValue, LegendValueCount> legendOf(const Candle& candle, std::optional<double> average) {
+std::wstring singlePriceText(double price, int gridDecimals) {
+    return gridDecimals > LeastPriceDecimals ? formatNumber(price, gridDecimals + 1) : formatFigure(price);
+}
+
+std::array<LegendValue, LegendValueCount> legendOf(const Candle& candle, std::optional<double> average,
+                                                   int gridDecimals) {
     return {{
-        {L"O", formatFigure(candle.open)},
-        {L"H", formatFigure(candle.high)},
-        {L"L", formatFigure(candle.low)},
-        {L"C", formatFigure(candle.close)},
+        {L"O", singlePriceText(candle.open, gridDecimals)},
+        {L"H", singlePriceText(candle.high, gridDecimals)},
+        {L"L", singlePriceText(candle.low, gridDecimals)},
+        {L"C", singlePriceText(candle.close, gridDecimals)},
         {L"Wol.", formatLargeSum(candle.volume)},
-        {L"Śr. 20", average ? formatFigure(*average) : Dash},
+        {L"Śr. 20", average ? singlePriceText(*average, gridDecimals) : Dash},
     }};
 }
 

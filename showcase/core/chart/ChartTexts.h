@@ -16,11 +16,15 @@ struct LegendValue {
 };
 inline constexpr std::size_t LegendValueCount = 6;
 
-/// Open, high, low, close, volume and average of a candle, as the legend tells them.
-std::array<LegendValue, LegendValueCount> legendOf(const Candle& candle, std::optional<double> average);
+/// Open, high, low, close, volume and average of a candle, as the legend tells them beside a grid.
+std::array<LegendValue, LegendValueCount> legendOf(const Candle& candle, std::optional<double> average,
+                                                   int gridDecimals);
 
-/// "1 234,50": as many decimals as its grid has, but for prices at least two.
+inline constexpr int LeastPriceDecimals = 2;
+/// "1 234,50": as many decimals as its grid has, but at least those.
 std::wstring priceText(double price, int decimals);
+/// A price between the lines of such a grid: told more finely than they are, where they need more than two decimals.
+std::wstring singlePriceText(double price, int gridDecimals);
 /// "+3,21%   24 świece".
 std::wstring spanText(const Candle& first, const Candle& last, std::size_t candles);
 /// "Brak świec dla MMM; w pliku są: AAPL, COKE".
