@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "core/chart/ChartTexts.h"
+
 namespace Desk {
 
 namespace {
@@ -19,6 +21,7 @@ BEGIN_MESSAGE_MAP(ChartCanvas, VectorCanvas::VectorCanvasCtrl)
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSELEAVE()
     ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONDBLCLK()
     ON_WM_LBUTTONUP()
     ON_WM_CAPTURECHANGED()
     ON_WM_SETCURSOR()
@@ -72,13 +75,20 @@ void ChartCanvas::render() {
     CRect client;
     GetClientRect(&client);
     m_isStale = false;
-    layOutFrame(m_frame, m_model.candles(), m_model.average(), m_model.state().range,
-                m_painting.measure(m_model, client.Size()));
+    layOut(client.Size(), 0);
+    // Prices close to each other have longer labels. A plot that is narrower for them has the same prices.
+    if (m_frame.priceGrid.decimals > LeastPriceDecimals)
+        layOut(client.Size(), m_frame.priceGrid.decimals);
     m_overlayAreas = m_overlay.areas();
     if (!m_painter.InitRender(client.Size()))
         return;
     m_painting.draw(m_painter, m_model, m_frame);
     m_painter.EndRender(true);
+}
+
+void ChartCanvas::layOut(CSize size, int priceDecimals) {
+    layOutFrame(m_frame, m_model.candles(), m_model.average(), m_model.state().range,
+                m_painting.measure(m_model, size, priceDecimals));
 }
 
 void ChartCanvas::OnPaint() {
@@ -149,12 +159,19 @@ void ChartCanvas::OnLButtonDown(UINT flags, CPoint point) {
     apply(change);
 }
 
+/// A quick second press is one more press.
+void ChartCanvas::OnLButtonDblClk(UINT flags, CPoint point) {
+    OnLButtonDown(flags, point);
+}
+
 void ChartCanvas::OnLButtonUp(UINT flags, CPoint point) {
     if (GetCapture() != this)
         return;
     // The release may lie farther on than the last move that was told.
     apply(m_model.gestures().move(mouseAt(point, flags), m_frame));
     ReleaseCapture();
+    // In the drag only what is dragged was looked at, and nobody tells that the mouse has left meanwhile.
+    apply(m_model.gestures().move(mouseAt(point, flags), m_frame));
 }
 
 /// The end of each drag, whoever brought it about.

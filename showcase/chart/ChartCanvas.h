@@ -40,6 +40,7 @@ protected:
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnMouseLeave();
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnCaptureChanged(CWnd* window);
     afx_msg BOOL OnSetCursor(CWnd* window, UINT hitTest, UINT message);
@@ -48,6 +49,7 @@ protected:
 
 private:
     void render();
+    void layOut(CSize size, int priceDecimals);
     bool fitBack(CDC& dc, CSize size);
     ChartMouse mouseAt(CPoint point, UINT flags);
     void renewOverlay();

@@ -31,6 +31,8 @@ bool ChartModel::show(const Instrument* instrument) {
     const std::string key = instrument ? instrument->symbol : std::string();
     if (key == m_key)
         return false;
+    // A line that is hardly begun is not kept.
+    m_gestures.release();
     keepLines(m_memory);
     m_key = key;
     m_symbol = OrtinTools::String::Utf8ToWide(key);

@@ -39,7 +39,7 @@ CRect areaOf(const ChartArea& area) {
 
 } // namespace
 
-ChartMeasures ChartPainting::measure(const ChartModel& model, CSize canvas) {
+ChartMeasures ChartPainting::measure(const ChartModel& model, CSize canvas, int priceDecimals) {
     m_contexts.update(model);
     double greatest = 0;
     double volume = 0;
@@ -49,7 +49,7 @@ ChartMeasures ChartPainting::measure(const ChartModel& model, CSize canvas) {
     }
     m_labelHeight =
         TextSizeCalculator::GetTextSize(std::pair<HDC, HFONT>(nullptr, fontOf(m_contexts.labels)), L"0", false).cy;
-    const int widest = std::max(textWidth(priceText(greatest, 0) + L"0", m_contexts.labels),
+    const int widest = std::max(textWidth(singlePriceText(greatest, priceDecimals) + L"0", m_contexts.labels),
                                 textWidth(formatLargeSum(volume), m_contexts.labels));
     ChartMeasures measures;
     measures.width = canvas.cx;
@@ -89,6 +89,7 @@ void ChartPainting::draw(VectorCanvas::IVectorPainter& painter, const ChartModel
     drawMarkers();
     drawLastPrice();
     drawLines();
+    drawSpanTag();
     drawLabels();
     drawTool();
     drawControlPoints();
@@ -163,11 +164,18 @@ void ChartPainting::drawSpan() {
     m_painter->DrawPolygon(m_points.data(), m_points.size(), &m_contexts.range, {0, 0});
     if (isHovered(objectOf(ChartPart::Range))) {
         m_contexts.updateHalo(m_model->styleOf(ChartPart::Range));
-        m_points = {};
+        m_points.clear();
         addLine(m_points, area->left, area->top, area->left, area->bottom);
         addLine(m_points, area->right, area->top, area->right, area->bottom);
         m_painter->DrawLineList(m_points.data(), m_points.size(), m_contexts.halo, {0, 0});
     }
+}
+
+/// What has become of the price in the selected range, over its candles.
+void ChartPainting::drawSpanTag() {
+    const std::optional<CRect> area = spanArea();
+    if (!area)
+        return;
     const CandleSpan& span = *m_model->state().span;
     const std::wstring text =
         spanText(m_model->candles()[span.first], m_model->candles()[span.last - 1], span.last - span.first);
@@ -275,7 +283,7 @@ void ChartPainting::drawLastPrice() {
     m_points.clear();
     addLine(m_points, m_frame->layout.prices.left, y, m_frame->layout.prices.right, y);
     m_painter->DrawLineList(m_points.data(), m_points.size(), m_contexts.lastPrice, {0, 0});
-    drawTag(priceText(last.close, m_frame->priceGrid.decimals), *area, color, 0);
+    drawTag(singlePriceText(last.close, m_frame->priceGrid.decimals), *area, color, 0);
 }
 
 void ChartPainting::drawLines() {

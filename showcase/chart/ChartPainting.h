@@ -14,8 +14,8 @@ namespace Desk {
 /// picture.
 class ChartPainting {
 public:
-    /// What the parts of a canvas of this size need.
-    ChartMeasures measure(const ChartModel& model, CSize canvas);
+    /// What the parts of a canvas of this size need, where the grid of prices has so many decimals.
+    ChartMeasures measure(const ChartModel& model, CSize canvas, int priceDecimals);
     /// Between the painter's `InitRender` and `EndRender`.
     void draw(VectorCanvas::IVectorPainter& painter, const ChartModel& model, const ChartFrame& frame);
 
@@ -26,6 +26,7 @@ private:
     void drawGrid();
     void drawVolumes();
     void drawSpan();
+    void drawSpanTag();
     void drawCandles();
     void drawCandles(bool rising, VectorCanvas::DrawContextGdiLine& edges,
                      VectorCanvas::DrawContextGdiLineAndFill& bodies);

@@ -4,6 +4,7 @@
 #include "ChartOnHost.h"
 #include "DeskColors.h"
 #include "chart/ChartContexts.h"
+#include "support/Resources.h"
 
 using namespace Desk;
 
@@ -243,7 +244,7 @@ TEST_F(ChartPainted, ManyPicturesLeaveNoHandleBehind) {
         }
     };
     draw(5);
-    const DWORD before = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS);
+    const std::size_t before = support::gdiHandleCount();
     draw(60);
-    EXPECT_EQ(::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS), before);
+    EXPECT_EQ(support::gdiHandleCount(), before);
 }
