@@ -18,7 +18,7 @@ namespace {
 constexpr int LabelPadding = 6;
 constexpr int LegendPadding = 6;
 constexpr int PlotGap = 6;
-constexpr int PriceDistance = 34;
+constexpr int PriceDistance = 22;
 constexpr int DateDistance = 72;
 constexpr int MarkerRadius = 9;
 constexpr int ControlPointSize = 7;
@@ -60,7 +60,7 @@ ChartMeasures ChartPainting::measure(const ChartModel& model, CSize canvas, int 
     measures.parts.gap = scaled(PlotGap);
     measures.lineTool.width = textWidth(ToolText, m_contexts.tool) + 2 * scaled(ToolPadding);
     measures.lineTool.margin = scaled(ToolMargin);
-    measures.priceDistance = std::max(scaled(PriceDistance), 2 * m_labelHeight);
+    measures.priceDistance = std::max(scaled(PriceDistance), m_labelHeight * 3 / 2);
     measures.dateDistance = std::max(scaled(DateDistance), 5 * m_labelHeight);
     return measures;
 }
