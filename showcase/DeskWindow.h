@@ -98,6 +98,7 @@ private:
     KeyPlace placeOf(HWND window);
     bool runShortcut(const MSG& message);
     bool moveFocus(WPARAM key, KeyPlace place);
+    void turnFocus(KeyPlace place, bool back);
     void run(Command command);
     void showInfo();
     void report(const std::optional<PrintReport>& report);

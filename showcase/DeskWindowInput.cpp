@@ -2,6 +2,7 @@
 #include "DeskWindow.h"
 
 #include <OrtinControls/CtrlsTools.h>
+#include <OrtinFoundation/Keyboard.h>
 
 #include "KeyPresses.h"
 
@@ -67,7 +68,7 @@ bool DeskWindow::runShortcut(const MSG& message) {
     return moveFocus(message.wParam, place);
 }
 
-/// Escape leaves the search, Tab goes between it and the rows, Down goes from it into the rows.
+/// Escape leaves the search, Tab goes on to the rows and the chart, Down goes from it into the rows.
 bool DeskWindow::moveFocus(WPARAM key, KeyPlace place) {
     const bool inFindBox = place == KeyPlace::FindBox;
     switch (key) {
@@ -79,10 +80,7 @@ bool DeskWindow::moveFocus(WPARAM key, KeyPlace place) {
         focusTable();
         return true;
     case VK_TAB:
-        if (inFindBox)
-            focusTable();
-        else
-            m_strip.findBox().edit();
+        turnFocus(place, OrtinTools::Keyboard::IsShiftPressed());
         return true;
     case VK_DOWN:
         if (inFindBox)
@@ -91,6 +89,16 @@ bool DeskWindow::moveFocus(WPARAM key, KeyPlace place) {
     default:
         return false;
     }
+}
+
+/// From the search to the rows, to the chart and round again, or the other way.
+void DeskWindow::turnFocus(KeyPlace place, bool back) {
+    if (place == (back ? KeyPlace::Elsewhere : KeyPlace::FindBox))
+        focusTable();
+    else if (place == (back ? KeyPlace::FindBox : KeyPlace::Rows))
+        m_chart.SetFocus();
+    else
+        m_strip.findBox().edit();
 }
 
 void DeskWindow::run(Command command) {

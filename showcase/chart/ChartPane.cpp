@@ -113,11 +113,6 @@ void ChartPane::turnWheel(const MSG& message) {
     m_canvas.zoomAt(point.x, delta);
 }
 
-void ChartPane::drawLine(const TrendLine& line) {
-    m_model.addLine(line);
-    m_canvas.apply({.picture = true});
-}
-
 // Layout
 
 void ChartPane::OnSize(UINT type, int cx, int cy) {

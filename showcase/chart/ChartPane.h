@@ -36,7 +36,6 @@ public:
     void turnWheel(const MSG& message);
     /// Whether Escape has something to end in the chart.
     bool takesEscape() { return m_model.gestures().canLeave(); }
-    void drawLine(const TrendLine& line);
     void apply(const ChartChange& change) { m_canvas.apply(change); }
     ChartGestures& gestures() { return m_model.gestures(); }
 

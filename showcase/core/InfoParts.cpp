@@ -42,7 +42,7 @@ std::vector<InfoPart> infoParts() {
         entry(keys(Command::Find), L"szukanie symbolu, nazwy albo sektora; wystarczy też zacząć pisać"),
         entry(keys(Command::FindNext, Command::FindPrevious), L"następny i poprzedni znaleziony wiersz"),
         entry(L"Esc", L"koniec szukania i zaznaczania"),
-        entry(L"Tab", L"z wierszy do szukania i z powrotem"),
+        entry(L"Tab", L"z szukania do wierszy, z nich do wykresu i znów do szukania; z Shift odwrotnie"),
         entry(keys(Command::CopyRows), L"kopiuje zaznaczone wiersze"),
         entry(keys(Command::CopyColumn), L"kopiuje z nich tylko jedną kolumnę"),
         entry(keys(Command::SelectAll), L"zaznacza wszystkie wiersze"),

@@ -68,6 +68,12 @@ protected:
         support::click(tool);
         settle();
     }
+    HWND focus() const {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        ::GetGUIThreadInfo(::GetWindowThreadProcessId(desk(), nullptr), &info);
+        return info.hwndFocus;
+    }
     void drawLine() const {
         takeTool();
         support::drag(at(0.2, 0.5), at(0.6, 0.3));
@@ -104,6 +110,20 @@ TEST_F(ChartByMouse, ALineIsDrawnDraggedByItsEndSelectedAndDeleted) {
     EXPECT_TRUE(eventually([&] { return pixelsOf(panel()) != nothingSelected; }));
     support::typeKey(VK_DELETE);
     EXPECT_TRUE(eventually([&] { return chart() == without; }));
+}
+
+TEST_F(ChartByMouse, TabGoesFromTheSearchToTheRowsToTheChartAndRoundAgain) {
+    start();
+    support::chord({VK_CONTROL, 'F'});
+    EXPECT_TRUE(eventually([&] { return focus() == findBox(); }));
+    for (const HWND next : {body(), canvas(), findBox(), body()}) {
+        support::typeKey(VK_TAB);
+        EXPECT_TRUE(eventually([&] { return focus() == next; }));
+    }
+    for (const HWND next : {findBox(), canvas(), body()}) {
+        support::chord({VK_SHIFT, VK_TAB});
+        EXPECT_TRUE(eventually([&] { return focus() == next; }));
+    }
 }
 
 TEST_F(ChartByMouse, EscapeInADragPutsTheLineBack) {
