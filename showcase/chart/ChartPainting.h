@@ -20,6 +20,9 @@ public:
     void draw(VectorCanvas::IVectorPainter& painter, const ChartModel& model, const ChartFrame& frame);
 
 private:
+    static constexpr int LabelPadding = 6; ///< beside a text, at 96 pixels to the inch
+    static constexpr const wchar_t* ToolText = L"Linia trendu";
+
     using Points = std::vector<OrtinPoint<float>>;
 
     void drawWatermark();

@@ -103,6 +103,11 @@ OrtinPoint<float> floating(const ChartPixel& pixel) {
     return {static_cast<float>(pixel.x), static_cast<float>(pixel.y)};
 }
 
+VectorCanvas::CRect2D floating(const CRect& area) {
+    return {static_cast<float>(area.left), static_cast<float>(area.top), static_cast<float>(area.Width()),
+            static_cast<float>(area.Height())};
+}
+
 HFONT fontOf(VectorCanvas::DrawContextGdiText& style) {
     return static_cast<HFONT>(style.GetFont());
 }

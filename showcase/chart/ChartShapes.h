@@ -15,6 +15,7 @@ using PaintPoints = std::vector<OrtinPoint<float>>;
 /// The pixel that a place of the frame lies in.
 int pixelOf(double place);
 OrtinPoint<float> floating(const ChartPixel& pixel);
+VectorCanvas::CRect2D floating(const CRect& area);
 HFONT fontOf(VectorCanvas::DrawContextGdiText& style);
 
 /// Up to, but without, the second point, as lines of the system are.

@@ -147,6 +147,17 @@ bool eventually(const std::function<bool()>& holds) {
     return true;
 }
 
+bool dragUntil(POINT from, POINT to, const std::function<bool()>& hasFollowed) {
+    support::moveMouse(from);
+    support::pressButton();
+    const bool followed = eventually([&] {
+        support::moveMouse(to);
+        return hasFollowed();
+    });
+    support::releaseButton();
+    return followed;
+}
+
 DeskRun runDesk(const std::vector<std::wstring>& arguments, const std::function<void()>& whileOpen) {
     Collector output;
     Collector errors;

@@ -15,6 +15,10 @@
 /// Asks again and again until it holds, for at most ten seconds.
 bool eventually(const std::function<bool()>& holds);
 
+/// Drags by the left button until what is dragged has followed; false if it never has. A busy display's late word of an
+/// earlier place takes it back, and a last move that arrives together with the release counts as none.
+bool dragUntil(POINT from, POINT to, const std::function<bool()>& hasFollowed);
+
 /// A run of OrtinDesk to its end.
 struct DeskRun {
     int exitCode = -1;

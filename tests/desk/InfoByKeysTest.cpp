@@ -50,17 +50,6 @@ protected:
         ::SetWindowPos(info(), nullptr, 0, 0, scaled(width), scaled(height), SWP_NOMOVE | SWP_NOZORDER);
         settle();
     }
-    /// A busy display's late word of an earlier place takes the thumb back: the hand holds it until it has followed.
-    bool dragUntil(POINT from, POINT to, const std::function<bool()>& hasFollowed) const {
-        support::moveMouse(from);
-        support::pressButton();
-        const bool followed = eventually([&] {
-            support::moveMouse(to);
-            return hasFollowed();
-        });
-        support::releaseButton();
-        return followed;
-    }
     POINT inPage() const { return onScreen(info(), scaled(100), scaled(80)); }
 
 private:

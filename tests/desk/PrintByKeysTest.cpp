@@ -42,7 +42,7 @@ protected:
         EXPECT_TRUE(eventually([&] {
             found = ::FindWindowW(nullptr, title);
             return found && ::IsWindowVisible(found) && ::GetForegroundWindow() == found;
-        })) << "no dialog: " << title;
+        })) << title;
         return found;
     }
     static bool isOpen(const wchar_t* title) { return ::FindWindowW(nullptr, title) != nullptr; }
@@ -217,6 +217,7 @@ TEST_F(PrintByKeys, NothingBesideThePagesOfThePreviewIsLightInTheBlackTheme) {
     support::chord({VK_CONTROL, VK_SHIFT, 'P'});
     const HWND preview = dialog(L"Podgląd wydruku");
     support::click(onScreen(::GetDlgItem(preview, ZoomInId), 5, 5));
+    EXPECT_TRUE(eventually([&] { return ::IsWindowVisible(::GetDlgItem(preview, AcrossBarId)); }));
     support::moveMouse(onScreen(preview, scaled(20), scaled(40)));
     settle();
     for (const int id : {DownBarId, AcrossBarId})
