@@ -6,6 +6,7 @@
 
 #include "DeskColors.h"
 #include "DeskFonts.h"
+#include "MouseLeaving.h"
 
 namespace Desk {
 
@@ -112,10 +113,8 @@ void DeskScrollBar::OnMouseMove(UINT, CPoint point) {
         onScrollTo(positionForThumb(m_state, trackLength(), scaled(LeastThumb), place - m_drag->grip));
     if (m_paging)
         m_paging->target = place;
-    if (!m_hot) {
-        TRACKMOUSEEVENT track{sizeof(track), TME_LEAVE, m_hWnd, 0};
-        ::TrackMouseEvent(&track);
-    }
+    if (!m_hot)
+        watchMouseLeaving(m_hWnd);
     const ThumbSpan span = thumb();
     setHot(place >= span.begin && place < span.end);
 }

@@ -96,10 +96,15 @@ BOOL DeskWindow::open() {
     CalcWindowRect(&rect, WS_OVERLAPPEDWINDOW);
     CRect screen(rect);
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
-    return CreateEx(
-        0, AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW), nullptr, AfxGetApp()->LoadIcon(IconId)),
-        L"OrtinDesk – notowania", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT,
-        std::min(rect.Width(), screen.Width()), std::min(rect.Height(), screen.Height()), nullptr, nullptr);
+    if (!CreateEx(
+            0,
+            AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW), nullptr, AfxGetApp()->LoadIcon(IconId)),
+            L"OrtinDesk – notowania", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT,
+            std::min(rect.Width(), screen.Width()), std::min(rect.Height(), screen.Height()), nullptr, nullptr))
+        return FALSE;
+    // Now that the table has a height, it scrolls to the row.
+    showFirstKnown();
+    return TRUE;
 }
 
 BOOL DeskWindow::PreCreateWindow(CREATESTRUCT& create) {
@@ -117,7 +122,6 @@ int DeskWindow::OnCreate(LPCREATESTRUCT create) {
         m_table.Redraw();
     };
     setTheme(m_settings.theme);
-    showFirstKnown();
     m_strip.setSwitch(StripSwitch::LockedColumns, m_settings.lockedColumns);
     showCounts();
     m_status.setField(TickField, L"Bez zmian kursów");
@@ -187,12 +191,8 @@ void DeskWindow::saveSettingsOnce() {
 
 void DeskWindow::OnSize(UINT type, int cx, int cy) {
     CWnd::OnSize(type, cx, cy);
-    if (type == SIZE_MINIMIZED || !m_status.GetSafeHwnd())
-        return;
-    placeWindows();
-    // Before there was a height, there was nothing to scroll.
-    if (std::exchange(m_isFirstPlacing, false))
-        m_table.SetCarretIndex(m_handler.selection().caret());
+    if (type != SIZE_MINIMIZED && m_status.GetSafeHwnd())
+        placeWindows();
 }
 
 void DeskWindow::placeWindows() {

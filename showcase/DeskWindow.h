@@ -125,7 +125,6 @@ private:
     DeskMenu m_menu;
     InfoWindow m_info;
     std::unique_ptr<TickFeed> m_feed;
-    bool m_isFirstPlacing = true;
     bool m_settingsAreKept = true;
     bool m_fading = false;
     bool m_autoscroll = false;

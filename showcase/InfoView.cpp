@@ -55,7 +55,6 @@ END_MESSAGE_MAP()
 InfoView::InfoView(DeskFonts& fonts) : m_fonts(fonts) {
     createDeskFont(m_titleFont, TitleHeight, FW_BOLD);
     createDeskFont(m_headingFont, HeadingHeight, FW_BOLD);
-    m_page = layoutInfo(infoParts(), {scaled(PageWidth), scaled(Margin), scaled(NamesWidth), scaled(Gap)}, typefaces());
 }
 
 BOOL InfoView::createIn(CWnd* parent, int id) {
@@ -63,7 +62,7 @@ BOOL InfoView::createIn(CWnd* parent, int id) {
                       WS_CHILD | WS_VISIBLE | WS_HSCROLL | WS_VSCROLL, CRect(0, 0, 10, 10), parent,
                       static_cast<UINT>(id)))
         return FALSE;
-    m_scroll.SetDisplaySize(m_page.width, m_page.height);
+    m_scroll.SetDisplaySize(page().width, page().height);
     return TRUE;
 }
 
@@ -74,11 +73,11 @@ void InfoView::OnNcCalcSize(BOOL, NCCALCSIZE_PARAMS*) {
 }
 
 ScrollState InfoView::horizontal() {
-    return {m_page.width, CXTPClientRect(this).Width(), GetScrollPos(SB_HORZ)};
+    return {page().width, CXTPClientRect(this).Width(), GetScrollPos(SB_HORZ)};
 }
 
 ScrollState InfoView::vertical() {
-    return {m_page.height, CXTPClientRect(this).Height(), GetScrollPos(SB_VERT)};
+    return {page().height, CXTPClientRect(this).Height(), GetScrollPos(SB_VERT)};
 }
 
 void InfoView::scrollToX(int position) {
@@ -93,7 +92,7 @@ void InfoView::scrollToY(int position) {
 
 bool InfoView::scrollByKey(WPARAM key) {
     // A line of the page before stays in view.
-    const int page = std::max(1, vertical().page - m_fonts.lineHeight());
+    const int step = std::max(1, vertical().page - m_fonts.lineHeight());
     switch (key) {
     case VK_UP:
         m_scroll.OnVScroll(SB_LINEUP, 0, nullptr);
@@ -108,16 +107,16 @@ bool InfoView::scrollByKey(WPARAM key) {
         m_scroll.OnHScroll(SB_LINERIGHT, 0, nullptr);
         break;
     case VK_PRIOR:
-        scrollToY(vertical().position - page);
+        m_scroll.ScrollVerticalPosition(std::max(0, vertical().position - step));
         break;
     case VK_NEXT:
-        scrollToY(vertical().position + page);
+        m_scroll.ScrollVerticalPosition(vertical().position + step);
         break;
     case VK_HOME:
         m_scroll.ScrollToOrigin(true, true);
         break;
     case VK_END:
-        scrollToY(m_page.height);
+        m_scroll.ScrollVerticalPosition(page().height);
         break;
     default:
         return false;
@@ -158,15 +157,24 @@ CFont& InfoView::fontOf(InfoFont font) {
     return m_fonts.text();
 }
 
-InfoTypefaces InfoView::typefaces() {
-    const auto measured = [this](InfoFont font, std::wstring_view text) {
-        CDC dc;
-        dc.CreateCompatibleDC(nullptr);
+const InfoPage& InfoView::page() {
+    if (m_page)
+        return *m_page;
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    const auto measured = [&](InfoFont font, std::wstring_view text) {
         const ScopedSelection selected(dc, fontOf(font));
         return dc.GetTextExtent(text.data(), static_cast<int>(text.size()));
     };
-    return {[measured](InfoFont font, std::wstring_view text) { return static_cast<int>(measured(font, text).cx); },
-            [measured](InfoFont font) { return static_cast<int>(measured(font, L"Ą").cy); }};
+    const InfoTypefaces typefaces{
+        [&](InfoFont font, std::wstring_view text) { return static_cast<int>(measured(font, text).cx); },
+        [&](InfoFont font) { return static_cast<int>(measured(font, L"Ą").cy); }};
+    m_page = layoutInfo(infoParts(), {scaled(PageWidth), scaled(Margin), scaled(NamesWidth), scaled(Gap)}, typefaces);
+    return *m_page;
+}
+
+CSize InfoView::pageSize() {
+    return CSize(page().width, page().height);
 }
 
 void InfoView::OnPaint() {
@@ -183,19 +191,19 @@ void InfoView::OnPaint() {
 void InfoView::drawPage(CDC& dc, const CRect& part) {
     const auto isSeen = [&part](int top, int height) { return top < part.bottom && top + height > part.top; };
     dc.SetBkMode(TRANSPARENT);
-    for (const InfoLine& line : m_page.lines)
+    for (const InfoLine& line : page().lines)
         if (isSeen(line.top, line.height)) {
             const ScopedSelection font(dc, fontOf(line.font));
             dc.SetTextColor(colorOf(line.font));
             dc.TextOut(line.left, line.top, line.text.c_str(), static_cast<int>(line.text.size()));
         }
-    for (const InfoField& field : m_page.fields)
+    for (const InfoField& field : page().fields)
         if (isSeen(field.top, field.height)) {
             const CRect rect(CPoint(field.left, field.top), CSize(field.width, field.height));
             dc.FillSolidRect(&rect, colorOf(field.color));
         }
-    for (const int rule : m_page.rules) {
-        const CRect rect(scaled(Margin), rule, m_page.width - scaled(Margin), rule + 1);
+    for (const int rule : page().rules) {
+        const CRect rect(scaled(Margin), rule, page().width - scaled(Margin), rule + 1);
         dc.FillSolidRect(&rect, Colors::line());
     }
 }

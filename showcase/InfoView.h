@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <OrtinControls/ScrollProcessor.h>
 
@@ -20,8 +21,8 @@ public:
     explicit InfoView(DeskFonts& fonts);
 
     BOOL createIn(CWnd* parent, int id);
-    /// The size of the whole page.
-    CSize pageSize() const { return CSize(m_page.width, m_page.height); }
+    /// The size of the whole page, which is laid out when it is first asked for.
+    CSize pageSize();
     /// As a scroll bar is to show it.
     ScrollState horizontal();
     ScrollState vertical();
@@ -45,14 +46,14 @@ protected:
 
 private:
     CFont& fontOf(InfoFont font);
-    InfoTypefaces typefaces();
+    const InfoPage& page();
     void drawPage(CDC& dc, const CRect& part);
     void tellScrolled();
 
     DeskFonts& m_fonts;
     CFont m_titleFont;
     CFont m_headingFont;
-    InfoPage m_page;
+    std::optional<InfoPage> m_page;
     ScrollProcessor m_scroll{this};
 };
 

@@ -1,5 +1,6 @@
 #include "Scenes.h"
 
+#include "PackedPoint.h"
 #include "PngFile.h"
 #include "ScopedSelection.h"
 #include "StandardStreams.h"
@@ -26,10 +27,6 @@ CWnd* statusWindow() {
         },
         reinterpret_cast<LPARAM>(&found));
     return found ? CWnd::FromHandle(found) : nullptr;
-}
-
-LPARAM packed(CPoint point) {
-    return MAKELPARAM(point.x, point.y);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 
 #include "DeskColors.h"
 #include "DeskShapes.h"
+#include "MouseLeaving.h"
 #include "ScopedSelection.h"
 #include "core/Commands.h"
 #include "core/PolishFormat.h"
@@ -232,10 +233,8 @@ void TopStrip::OnSize(UINT type, int cx, int cy) {
 }
 
 void TopStrip::OnMouseMove(UINT, CPoint point) {
-    if (m_hot == Item::None) {
-        TRACKMOUSEEVENT track{sizeof(track), TME_LEAVE, m_hWnd, 0};
-        ::TrackMouseEvent(&track);
-    }
+    if (m_hot == Item::None)
+        watchMouseLeaving(m_hWnd);
     setHot(itemAt(point));
 }
 

@@ -8,6 +8,7 @@
 #include "DeskColors.h"
 #include "DeskFonts.h"
 #include "DeskShapes.h"
+#include "MouseLeaving.h"
 
 namespace Desk {
 
@@ -104,10 +105,8 @@ void CellRow::OnSize(UINT type, int cx, int cy) {
 // Mouse and keys
 
 void CellRow::OnMouseMove(UINT, CPoint point) {
-    if (m_hot == None) {
-        TRACKMOUSEEVENT track{sizeof(track), TME_LEAVE, m_hWnd, 0};
-        ::TrackMouseEvent(&track);
-    }
+    if (m_hot == None)
+        watchMouseLeaving(m_hWnd);
     setHot(cellAt(point));
 }
 

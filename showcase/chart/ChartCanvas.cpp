@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "MouseLeaving.h"
 #include "core/chart/ChartTexts.h"
 
 namespace Desk {
@@ -139,10 +140,8 @@ ChartMouse ChartCanvas::mouseAt(CPoint point, UINT flags) {
 }
 
 void ChartCanvas::OnMouseMove(UINT flags, CPoint point) {
-    if (!m_watchesLeaving) {
-        TRACKMOUSEEVENT track{sizeof(track), TME_LEAVE, m_hWnd, 0};
-        m_watchesLeaving = ::TrackMouseEvent(&track) != FALSE;
-    }
+    if (!m_watchesLeaving)
+        m_watchesLeaving = watchMouseLeaving(m_hWnd);
     apply(m_model.gestures().move(mouseAt(point, flags), m_frame));
 }
 

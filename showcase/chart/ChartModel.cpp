@@ -20,6 +20,13 @@ std::vector<std::wstring> wide(const std::vector<std::string>& texts) {
     return all;
 }
 
+double greatest(const Candles& candles, double Candle::*value) {
+    double found = 0;
+    for (const Candle& candle : candles)
+        found = std::max(found, candle.*value);
+    return found;
+}
+
 } // namespace
 
 ChartModel::ChartModel(CandleSource source, ChartMemory memory)
@@ -40,6 +47,8 @@ bool ChartModel::show(const Instrument* instrument) {
     m_candles = instrument ? &m_source.candlesOf(*instrument) : &NoCandles;
     m_missing = instrument && m_candles->empty() ? missingText(m_symbol, wide(m_source.symbols())) : std::wstring();
     m_average = movingAverage(*m_candles, AveragePeriod);
+    m_greatestPrice = greatest(*m_candles, &Candle::high);
+    m_greatestVolume = greatest(*m_candles, &Candle::volume);
     takeLines();
     m_gestures.startSeries(m_candles->size());
     return true;

@@ -24,6 +24,9 @@ public:
     const CandleSource& source() const { return m_source; }
     const Candles& candles() const { return *m_candles; }
     const std::vector<double>& average() const { return m_average; }
+    /// The greatest price and volume of all candles, 0 without any.
+    double greatestPrice() const { return m_greatestPrice; }
+    double greatestVolume() const { return m_greatestVolume; }
     const std::wstring& symbol() const { return m_symbol; }
     const std::wstring& name() const { return m_name; }
     /// Why there are no candles; empty if there is no instrument either.
@@ -70,6 +73,8 @@ private:
     std::wstring m_missing;
     const Candles* m_candles;
     std::vector<double> m_average;
+    double m_greatestPrice = 0;
+    double m_greatestVolume = 0;
     std::vector<StyledLine> m_lines;
     ChartState m_state;
     ChartGestures m_gestures{m_state, *this};

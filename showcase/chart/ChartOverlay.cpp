@@ -163,7 +163,8 @@ void ChartOverlay::drawLegend(CDC& dc) {
         writer.skip(scaled(NameGap));
         writer.write(m_model.name(), Colors::mutedText(), std::min(nameRoom, writer.widthOf(m_model.name())));
     }
-    const COLORREF color = candle.rises() ? Colors::risen() : Colors::fallen();
+    // Of the bare colours little is read in the black theme.
+    const COLORREF color = Colors::blend(candle.rises() ? Colors::risen() : Colors::fallen(), Colors::text(), 0.35);
     for (const LegendValue& value : values) {
         const int needed = writer.widthOf(value.name) + inner + writer.widthOf(value.value);
         if (scaled(ValueGap) + needed > writer.room())

@@ -26,16 +26,11 @@ constexpr int ToolPadding = 9;
 
 ChartMeasures ChartPainting::measure(const ChartModel& model, CSize canvas, int priceDecimals) {
     m_contexts.update(model);
-    double greatest = 0;
-    double volume = 0;
-    for (const Candle& candle : model.candles()) {
-        greatest = std::max(greatest, candle.high);
-        volume = std::max(volume, candle.volume);
-    }
     m_labelHeight =
         TextSizeCalculator::GetTextSize(std::pair<HDC, HFONT>(nullptr, fontOf(m_contexts.labels)), L"0", false).cy;
-    const int widest = std::max(textWidth(singlePriceText(greatest, priceDecimals) + L"0", m_contexts.labels),
-                                textWidth(formatLargeSum(volume), m_contexts.labels));
+    const int widest =
+        std::max(textWidth(singlePriceText(model.greatestPrice(), priceDecimals) + L"0", m_contexts.labels),
+                 textWidth(formatLargeSum(model.greatestVolume()), m_contexts.labels));
     ChartMeasures measures;
     measures.width = canvas.cx;
     measures.height = canvas.cy;

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <cstdint>
 
+#include "PackedPoint.h"
+#include "PixelSheet.h"
 #include "PngFile.h"
 
 namespace Desk {
@@ -16,10 +18,6 @@ constexpr double RangeEnd = 0.68;
 constexpr double PointedAt = 0.3;
 constexpr int UnderLow = 5;
 constexpr int Zooms = 4;
-
-LPARAM packed(CPoint point) {
-    return MAKELPARAM(point.x, point.y);
-}
 
 BYTE channel(double share) {
     return static_cast<BYTE>(std::lround(255 * share));
@@ -88,25 +86,17 @@ COLORREF colorOfId(unsigned int id) {
 
 bool writeIds(const VectorCanvas::IVectorPainter& picture, const std::wstring& file) {
     const CSize size = picture.GetViewport();
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = size.cx;
-    info.bmiHeader.biHeight = -size.cy;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    void* bits = nullptr;
-    CBitmap bitmap;
-    if (!bitmap.Attach(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0)))
+    PixelSheet sheet(size);
+    std::uint32_t* pixel = sheet.pixels();
+    if (!pixel)
         return false;
-    auto* pixel = static_cast<std::uint32_t*>(bits);
     for (int y = 0; y < size.cy; ++y)
         for (int x = 0; x < size.cx; ++x) {
             const COLORREF color = colorOfId(picture.GetObjectId(x, y));
             *pixel++ = static_cast<std::uint32_t>(GetRValue(color)) << 16 |
                        static_cast<std::uint32_t>(GetGValue(color)) << 8 | GetBValue(color);
         }
-    ::GdiFlush();
-    return writePng(bitmap, file);
+    return writePng(sheet.bitmap(), file);
 }
 
 } // namespace Desk

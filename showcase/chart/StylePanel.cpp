@@ -109,11 +109,16 @@ bool StylePanel::createFontRows() {
     const auto drawSize = [this](CDC& dc, const CRect& area, int cell) {
         drawNumber(dc, area, Sizes[static_cast<std::size_t>(cell)], m_fonts.text());
     };
-    if (!m_face.createIn(this, Face, m_fonts) || !m_size.createIn(this, Size, static_cast<int>(Sizes.size()), drawSize))
-        return false;
+    return m_face.createIn(this, Face, m_fonts) &&
+           m_size.createIn(this, Size, static_cast<int>(Sizes.size()), drawSize);
+}
+
+/// Once, when a font is first shown: a system may have hundreds.
+void StylePanel::offerFaces() {
+    if (m_face.GetCount() > 0)
+        return;
     for (const std::wstring& face : offeredFaces())
         m_face.AddString(face.c_str());
-    return true;
 }
 
 bool StylePanel::createOpacity() {
@@ -173,6 +178,9 @@ void StylePanel::takeStyle() {
     constexpr double Rounding = 0.001;
     m_opacity.choose(std::abs(steps - std::round(steps)) < Rounding ? static_cast<int>(std::lround(steps)) - 1
                                                                     : CellRow::None);
+    if (!m_aspects.font)
+        return;
+    offerFaces();
     const std::wstring face = m_style.font.GetFaceName();
     int place = m_face.FindStringExact(-1, face.c_str());
     if (place == CB_ERR)

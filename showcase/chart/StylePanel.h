@@ -91,6 +91,7 @@ private:
     bool createFontRows();
     bool createOpacity();
 
+    void offerFaces();
     void takeStyle();
     void arrange();
     void addLine(bool isShown, const wchar_t* label, CWnd& field, std::optional<ColorField> color = {});

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "DeskFonts.h"
+#include "PixelSheet.h"
 #include "ScopedSelection.h"
 
 namespace Desk {
@@ -13,29 +14,6 @@ constexpr int GreatestHeight = 110;
 constexpr int LeastHeight = 24;
 /// Of 255, where a letter covers the whole pixel.
 constexpr int Opacity = 16;
-
-/// A picture in memory whose pixels can be read.
-class LetterSheet {
-public:
-    explicit LetterSheet(CSize size) {
-        BITMAPINFO info{};
-        info.bmiHeader.biSize = sizeof(info.bmiHeader);
-        info.bmiHeader.biWidth = size.cx;
-        info.bmiHeader.biHeight = -size.cy;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        void* bits = nullptr;
-        m_bitmap.Attach(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-        m_pixels = static_cast<const std::uint32_t*>(bits);
-    }
-    CBitmap& bitmap() { return m_bitmap; }
-    /// Null if there was no memory.
-    const std::uint32_t* pixels() const { return m_pixels; }
-
-private:
-    CBitmap m_bitmap;
-    const std::uint32_t* m_pixels;
-};
 
 } // namespace
 
@@ -68,7 +46,7 @@ void Watermark::make(COLORREF color) {
         if (m_size.cx <= m_room.cx)
             break;
     }
-    LetterSheet sheet(m_size);
+    PixelSheet sheet(m_size);
     if (!sheet.pixels())
         return;
     {

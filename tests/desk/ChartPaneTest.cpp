@@ -6,6 +6,19 @@ namespace {
 
 using ChartOfAHost = ChartOnHost;
 
+/// A model that shows one instrument, on whose chart a line is selected.
+class LineOnAChart : public ChartOnHost {
+protected:
+    LineOnAChart() {
+        const Instrument instrument = named("A");
+        model.show(&instrument);
+        model.addLine({});
+        model.gestures().select(lineObject(0));
+    }
+
+    ChartModel model{CandleSource(CandleBook{{"A", wavingCandles(50)}}), ChartMemory()};
+};
+
 } // namespace
 
 TEST_F(ChartOfAHost, KeepsTheLinesOfEachInstrumentApart) {
@@ -61,12 +74,7 @@ TEST_F(ChartOfAHost, AStyleChangesTheSelectedObjectOfTheThemeOnly) {
     EXPECT_EQ(model.styleOfLine(0).pen.Color(), RGB(1, 2, 3));
 }
 
-TEST_F(ChartOfAHost, TheNextLineLooksLikeTheOneThatWasStyledLast) {
-    ChartModel model(CandleSource(CandleBook{{"A", wavingCandles(50)}}), ChartMemory());
-    const Instrument a = named("A");
-    model.show(&a);
-    model.addLine({});
-    model.gestures().select(lineObject(0));
+TEST_F(LineOnAChart, GivesItsLooksToTheNextOneWhenItIsStyled) {
     ChartStyle style = model.styleOfLine(0);
     style.pen = GdiPenWrapper(PS_DOT, 4, RGB(1, 2, 3));
     model.setSelectedStyle(style);
@@ -78,12 +86,7 @@ TEST_F(ChartOfAHost, TheNextLineLooksLikeTheOneThatWasStyledLast) {
     EXPECT_NE(model.styleOfLine(2).pen.Color(), RGB(1, 2, 3));
 }
 
-TEST_F(ChartOfAHost, DashesOfAWideLineComeFromNoPenOfTheSystem) {
-    ChartModel model(CandleSource(CandleBook{{"A", wavingCandles(50)}}), ChartMemory());
-    const Instrument a = named("A");
-    model.show(&a);
-    model.addLine({});
-    model.gestures().select(lineObject(0));
+TEST_F(LineOnAChart, HasDashesOfNoPenOfTheSystemWhereItIsWide) {
     ChartContexts contexts;
     for (const auto& [dashes, count] : {std::pair(PS_DASH, 2), {PS_DOT, 2}, {PS_DASHDOT, 4}, {PS_DASHDOTDOT, 6}}) {
         ChartStyle style = model.styleOfLine(0);

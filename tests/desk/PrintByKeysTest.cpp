@@ -170,6 +170,25 @@ TEST_F(PrintByKeys, ThePreviewIsPrintedWithItsRange) {
     EXPECT_EQ(printedPages(), "3 2");
 }
 
+TEST_F(PrintByKeys, ThePreviewStopsRowsThatRunByThemselvesWhereTheyAre) {
+    constexpr auto AWhile = std::chrono::milliseconds(400);
+    start(printed.arguments);
+    const support::Pixels atTheTop = pixelsOf(body());
+    support::typeKey(VK_F6);
+    EXPECT_TRUE(eventually([&] { return pixelsOf(body()) != atTheTop; }));
+    support::chord({VK_CONTROL, VK_SHIFT, 'P'});
+    dialog(L"Podgląd wydruku");
+    support::typeKey(VK_ESCAPE);
+    EXPECT_TRUE(eventually([&] { return !isOpen(L"Podgląd wydruku") && ::IsWindowEnabled(desk()); }));
+    settle();
+    const support::Pixels stopped = pixelsOf(body());
+    EXPECT_NE(stopped, atTheTop);
+    support::pumpFor(AWhile);
+    EXPECT_EQ(stopped, pixelsOf(body()));
+    support::typeKey(VK_F6);
+    EXPECT_TRUE(eventually([&] { return pixelsOf(body()) != stopped; })) << "they run on from there";
+}
+
 TEST_F(PrintByKeys, CtrlAndTheWheelChangeTheScaleOfThePreview) {
     start(printed.arguments);
     support::chord({VK_CONTROL, VK_SHIFT, 'P'});

@@ -2,9 +2,17 @@
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <iomanip>
+#include <limits>
+#include <random>
 #include <sstream>
 
 #include <gtest/gtest.h>
+
+#include "CsvFaults.h"
+#include "core/chart/IsoDate.h"
 
 using namespace Desk;
 using namespace std::chrono_literals;
@@ -19,19 +27,37 @@ CandleBook read(const std::string& bytes) {
     return readCandles(input, "c.csv");
 }
 
-std::string messageFor(const std::string& bytes) {
-    try {
-        read(bytes);
-        return "no error";
-    } catch (const InputError& error) {
-        return error.what();
-    }
+/// Symbol and number of candles in turn.
+std::string countsOf(const CandleBook& book) {
+    std::string counts;
+    for (const auto& [symbol, candles] : book)
+        counts += symbol + ' ' + std::to_string(candles.size()) + ' ';
+    return counts;
 }
 
-struct FaultCase {
-    const char* name;
-    std::string bytes;
-    std::string message;
+/// A file of candles, gone with the object.
+class CandleFile {
+public:
+    explicit CandleFile(const CandleBook& book) {
+        std::ofstream output(m_path);
+        output << std::setprecision(std::numeric_limits<double>::max_digits10) << Header;
+        for (const auto& [symbol, candles] : book)
+            for (const Candle& candle : candles)
+                output << symbol << ',' << formatIsoDate(candle.date).value() << ',' << candle.open << ','
+                       << candle.high << ',' << candle.low << ',' << candle.close << ',' << candle.volume << '\n';
+    }
+    ~CandleFile() {
+        std::error_code ignored;
+        std::filesystem::remove(m_path, ignored);
+    }
+    CandleFile(const CandleFile&) = delete;
+    CandleFile& operator=(const CandleFile&) = delete;
+
+    const std::filesystem::path& path() const { return m_path; }
+
+private:
+    std::filesystem::path m_path =
+        std::filesystem::temp_directory_path() / ("candles " + std::to_string(std::random_device()()) + ".csv");
 };
 
 } // namespace
@@ -62,7 +88,7 @@ TEST(Candles, RiseWhenTheyCloseAtTheirOpenOrAbove) {
 class CandlesFault : public testing::TestWithParam<FaultCase> {};
 
 TEST_P(CandlesFault, IsToldWithPlaceFaultAndAdvice) {
-    EXPECT_EQ(messageFor(GetParam().bytes), GetParam().message);
+    EXPECT_EQ(messageOf([](const std::string& bytes) { read(bytes); }, GetParam().bytes), GetParam().message);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -120,26 +146,23 @@ INSTANTIATE_TEST_SUITE_P(
                   "c.csv, wiersz 2, kolumna 5: najniższa cena dnia „2.5” jest wyższa od innej; popraw ceny tego dnia"},
         FaultCase{"negativeVolume", Header + "A,2015-01-02,2,4,1,3,-1\n",
                   "c.csv, wiersz 2, kolumna 7: wolumen „-1” jest ujemny; popraw liczbę sztuk"}),
-    [](const auto& test) { return test.param.name; });
+    nameOfFault);
 
 TEST(Candles, AFileThatIsNotThereIsTold) {
-    try {
-        readCandles(std::filesystem::path("there is no such file.csv"));
-        FAIL() << "nothing thrown";
-    } catch (const InputError& error) {
-        EXPECT_STREQ(error.what(), "there is no such file.csv: pliku nie ma albo nie można go otworzyć; sprawdź "
-                                   "ścieżkę i prawa");
-    }
+    expectToldOfNoFile([](const std::filesystem::path& file) { readCandles(file); });
 }
 
-TEST(Candles, OfFiveRealSymbolsAreReadWhole) {
-    const std::filesystem::path file(ORTIN_REAL_CANDLES);
-    if (!std::filesystem::exists(file))
-        GTEST_SKIP() << "no real candles beside the project";
-    std::string counts;
-    for (const auto& [symbol, candles] : readCandles(file))
-        counts += symbol + ' ' + std::to_string(candles.size()) + ' ';
-    EXPECT_EQ(counts, "AAPL 753 COKE 754 GOOGL 754 TSLA 754 YHOO 619 ");
+TEST(Candles, OfAFileAreReadAsTheyWereWritten) {
+    CandleBook book;
+    for (const char* symbol : {"ABC", "DEF", "ŻUR"})
+        book[symbol] = sampleCandles(symbol, 87.31, LastDay, 750);
+    const CandleFile file(book);
+    EXPECT_EQ(readCandles(file.path()), book);
+
+    const std::filesystem::path real(ORTIN_REAL_CANDLES);
+    if (std::filesystem::exists(real)) {
+        EXPECT_EQ(countsOf(readCandles(real)), "AAPL 753 COKE 754 GOOGL 754 TSLA 754 YHOO 619 ");
+    }
 }
 
 TEST(SampleCandles, AreTheSameForTheSameArgumentsAndOthersForAnotherSymbol) {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "CsvFaults.h"
 #include "core/SampleData.h"
 #include "core/Utf8.h"
 
@@ -19,21 +20,6 @@ std::vector<Instrument> read(const std::string& bytes) {
     std::istringstream input(bytes);
     return readInstruments(input, "q.csv");
 }
-
-std::string messageFor(const std::string& bytes) {
-    try {
-        read(bytes);
-        return "no error";
-    } catch (const InputError& error) {
-        return error.what();
-    }
-}
-
-struct FaultCase {
-    const char* name;
-    std::string bytes;
-    std::string message;
-};
 
 } // namespace
 
@@ -74,7 +60,7 @@ TEST(Instruments, AreReadTheSameWithByteOrderMarkAndCarriageReturns) {
 class InstrumentsFault : public testing::TestWithParam<FaultCase> {};
 
 TEST_P(InstrumentsFault, IsToldWithPlaceFaultAndAdvice) {
-    EXPECT_EQ(messageFor(GetParam().bytes), GetParam().message);
+    EXPECT_EQ(messageOf([](const std::string& bytes) { read(bytes); }, GetParam().bytes), GetParam().message);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -113,17 +99,10 @@ INSTANTIATE_TEST_SUITE_P(
                   Header + "X,\xB3"
                            "ad,s,1,2,3,4,5,6,7\n",
                   "q.csv, wiersz 2, kolumna 2: tekst nie jest w UTF-8; zapisz plik w UTF-8"}),
-    [](const auto& test) { return test.param.name; });
+    nameOfFault);
 
 TEST(Instruments, AFileThatIsNotThereIsTold) {
-    try {
-        readInstruments(std::filesystem::path("there is no such file.csv"));
-        FAIL() << "nothing thrown";
-    } catch (const InputError& error) {
-        EXPECT_STREQ(error.what(),
-                     "there is no such file.csv: pliku nie ma albo nie można go otworzyć; sprawdź ścieżkę "
-                     "i prawa");
-    }
+    expectToldOfNoFile([](const std::filesystem::path& file) { readInstruments(file); });
 }
 
 TEST(Instruments, AFolderIsNoFile) {

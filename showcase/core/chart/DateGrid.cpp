@@ -14,9 +14,6 @@ using std::chrono::year_month_day;
 
 constexpr std::array<const wchar_t*, 12> ShortMonths{L"sty", L"lut", L"mar", L"kwi", L"maj", L"cze",
                                                      L"lip", L"sie", L"wrz", L"paź", L"lis", L"gru"};
-constexpr std::array<const wchar_t*, 12> MonthsOfDays{L"stycznia", L"lutego",       L"marca",     L"kwietnia",
-                                                      L"maja",     L"czerwca",      L"lipca",     L"sierpnia",
-                                                      L"września", L"października", L"listopada", L"grudnia"};
 
 struct Division {
     int months;       ///< 0: parts of a month
@@ -114,12 +111,6 @@ std::vector<DateMark> dateGrid(const Candles& candles, const TimeScale& scale, i
             marks.push_back({place, labelOf(candles, candle, *finest)});
     }
     return marks;
-}
-
-std::wstring formatLongDate(sys_days date) {
-    const year_month_day day(date);
-    return std::to_wstring(static_cast<unsigned>(day.day())) + L' ' +
-           MonthsOfDays[static_cast<unsigned>(day.month()) - 1] + L' ' + std::to_wstring(static_cast<int>(day.year()));
 }
 
 std::wstring formatShortDate(sys_days date) {

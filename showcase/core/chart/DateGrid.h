@@ -19,8 +19,6 @@ struct DateMark {
 /// are nearer, the later one is left out, or the beginning of the series.
 std::vector<DateMark> dateGrid(const Candles& candles, const TimeScale& scale, int leastDistance);
 
-/// "7 stycznia 2015".
-std::wstring formatLongDate(std::chrono::sys_days date);
 /// "07.01.2015".
 std::wstring formatShortDate(std::chrono::sys_days date);
 
