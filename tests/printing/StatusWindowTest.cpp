@@ -50,12 +50,19 @@ TEST_F(StatusWindows, ShowThePageOnTheScreenBeforeItIsDrawn) {
         start = {};
         pictures.push_back(pictureOfItem(204));
     };
-    print();
-    ASSERT_EQ(3U, pictures.size());
-    EXPECT_LT(longest, std::chrono::milliseconds(100));
-    EXPECT_FALSE(pictures[0].onlyColour(pictures[0].bounds())) << "there is no text";
-    EXPECT_NE(pictures[0], pictures[1]);
-    EXPECT_NE(pictures[1], pictures[2]);
+    // The best of some jobs: a machine that pauses pauses one of them, a window that shows late does so in each.
+    Clock::duration best = Clock::duration::max();
+    for (int job = 0; job < 3; ++job) {
+        pictures.clear();
+        longest = {};
+        print();
+        ASSERT_EQ(3U, pictures.size());
+        best = std::min(best, longest);
+        EXPECT_FALSE(pictures[0].onlyColour(pictures[0].bounds())) << "there is no text";
+        EXPECT_NE(pictures[0], pictures[1]);
+        EXPECT_NE(pictures[1], pictures[2]);
+    }
+    EXPECT_LT(best, std::chrono::milliseconds(100));
 }
 
 TEST_F(StatusWindows, CutALongPageTextOfTheHost) {
