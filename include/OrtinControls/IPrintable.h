@@ -30,7 +30,7 @@ public:
     /// Kept for the hosts' own use; the library does not call it.
     virtual void OnPrintingFinished() = 0;
     /// True ends a running job as if the user had cancelled it. It is asked after each page and by the spooler while it
-    /// works, so it has to be quick.
+    /// works, so it has to be quick and should not throw: the exception would pass through the spooler's calls.
     virtual bool IsPrintAborted() const = 0;
     /// The parent of the status window; may be null.
     virtual CWnd* AssociatedWindow() const = 0;

@@ -47,12 +47,16 @@ public:
     /// A printable that clears it while it prepares a page ends the run before that page.
     void ContinuePrinting(bool goOn);
 
-    /// The number of pages of the document. A printable may also write it instead of calling `Update`.
-    int m_pagesCount = 0;
-
+    // The order of the fields is part of the contract.
 protected:
     CRect m_printArea;
     const PrintDialogContext* m_dialogContext = nullptr;
     int m_currentPage = 0;
+
+public:
+    /// The number of pages of the document. A printable may also write it instead of calling `Update`.
+    int m_pagesCount = 0;
+
+protected:
     bool m_continuePrinting = true;
 };

@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include <OrtinControls/CtrlsTools.h>
 
+#include "support/ImportPatch.h"
 #include "support/Pump.h"
 #include "support/TopLevelWindow.h"
 
@@ -48,6 +50,40 @@ protected:
 
     support::ScopedTopLevelWindow parent{CSize(300, 200)};
     CountingChild child;
+};
+
+/// Writes down what the framework asks the system for a window's place, and does nothing of it.
+class PlaceCalls {
+public:
+    static constexpr BOOL kResult = 5;
+
+    PlaceCalls() { S_calls.clear(); }
+    static std::string take() { return std::exchange(S_calls, {}); }
+
+private:
+    static void note(const std::string& call, int x, int y, int width, int height) {
+        S_calls += call + ' ' + std::to_string(x) + ',' + std::to_string(y) + ' ' + std::to_string(width) + 'x' +
+                   std::to_string(height);
+    }
+    static BOOL WINAPI setPos(HWND window, HWND after, int x, int y, int width, int height, UINT flags) {
+        note(after == nullptr               ? "top"
+             : after == ::GetParent(window) ? "after the parent"
+                                            : "after?",
+             x, y, width, height);
+        S_calls += ' ' + std::to_string(flags);
+        return kResult;
+    }
+    static BOOL WINAPI move(HWND, int x, int y, int width, int height, BOOL repaint) {
+        note("move", x, y, width, height);
+        S_calls += repaint == TRUE ? " repaint" : "";
+        return TRUE;
+    }
+
+    inline static std::string S_calls;
+
+    HMODULE m_framework = ::GetModuleHandleW(L"OrtinMfc.dll");
+    support::ImportPatch m_setPos{m_framework, "user32.dll", "SetWindowPos", setPos};
+    support::ImportPatch m_move{m_framework, "user32.dll", "MoveWindow", move};
 };
 
 std::string show(const CRect& rect) {
@@ -132,6 +168,20 @@ TEST_F(DialogTools, PlaceAWindowByARectangle) {
     EXPECT_EQ("1:2-51:62", show(childRect()));
 }
 
+TEST_F(DialogTools, AskTheSystemForNothingElse) {
+    const PlaceCalls calls;
+    EXPECT_EQ(PlaceCalls::kResult, CtrlsTools::SetWindowPos(&child, &parent, CRect(7, 8, 57, 68), 0x8123));
+    EXPECT_EQ("after the parent 7,8 50x60 33059", calls.take());
+    EXPECT_EQ(PlaceCalls::kResult, CtrlsTools::SetWindowPos(&child, nullptr, CRect(9, 8, 7, 6), 0));
+    EXPECT_EQ("top 9,8 -2x-2 0", calls.take());
+    CtrlsTools::RecalculateCtrlArea(&child);
+    EXPECT_EQ("top 0,0 0x0 39", calls.take());
+    CtrlsTools::MoveCenterXControl(&parent, kChild, 40); // where it is
+    EXPECT_EQ("", calls.take());
+    CtrlsTools::MoveCenterXControl(&parent, kChild, 39);
+    EXPECT_EQ("move 19,30 41x20 repaint", calls.take());
+}
+
 TEST_F(DialogTools, TellRectanglesOnTheScreenAndInAWindow) {
     CRect screen;
     child.GetWindowRect(&screen);
@@ -146,6 +196,11 @@ TEST_F(DialogTools, KnowDescendantsAtAnyDepth) {
     CWnd grandchild;
     grandchild.Create(nullptr, L"", WS_CHILD, CRect(0, 0, 5, 5), &child, 1);
     support::ScopedTopLevelWindow stranger(CSize(50, 50));
+    const HWND owned =
+        ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 10, 10, parent.m_hWnd, nullptr, nullptr, nullptr);
+    EXPECT_TRUE(CtrlsTools::IsDescendant(parent, owned)) << "GetParent of an owned window is its owner";
+    EXPECT_FALSE(CtrlsTools::IsDescendant(stranger, owned));
+    ::DestroyWindow(owned);
     EXPECT_TRUE(CtrlsTools::IsDescendant(parent, parent));
     EXPECT_TRUE(CtrlsTools::IsDescendant(parent, child));
     EXPECT_TRUE(CtrlsTools::IsDescendant(parent, grandchild));
@@ -173,6 +228,11 @@ TEST_F(DialogTools, KnowAModalWindowByItsDisabledOwner) {
     EXPECT_FALSE(CtrlsTools::IsWindowModal(child)) << "a child of the same";
     EXPECT_FALSE(CtrlsTools::IsWindowModal(parent)) << "no owner";
     EXPECT_FALSE(CtrlsTools::IsWindowModal(nullptr));
+    const LONG style = ::GetWindowLongW(owned, GWL_STYLE);
+    ::SetWindowLongW(owned, GWL_STYLE, style | WS_CHILD);
+    ASSERT_EQ(parent.m_hWnd, ::GetWindow(owned, GW_OWNER));
+    EXPECT_FALSE(CtrlsTools::IsWindowModal(owned)) << "a child's style, whoever owns it";
+    ::SetWindowLongW(owned, GWL_STYLE, style);
     ::DestroyWindow(owned);
 }
 

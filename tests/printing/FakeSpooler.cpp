@@ -1,19 +1,12 @@
 #include "FakeSpooler.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 
 #include <OrtinFoundation/StringTools.h>
 
-#include <winspool.h>
-
 using OrtinTools::String::WideToUtf8;
-
-namespace {
-
-constexpr DWORD kRecordSize = sizeof(JOB_INFO_1W) + 100; // texts follow the record
-
-} // namespace
 
 FakeSpooler* FakeSpooler::S_current = nullptr;
 
@@ -58,12 +51,12 @@ struct FakeSpooler::Calls {
     static BOOL WINAPI getJob(HANDLE printer, DWORD job, DWORD level, BYTE* record, DWORD size, DWORD* needed) {
         S_current->write("GetJob(" + std::to_string(job) + "," + std::to_string(level) +
                          (printer == S_current->lastPrinter() ? ")" : ",a strange printer)"));
-        *needed = kRecordSize;
+        *needed = S_current->size;
         if (record == nullptr) {
             S_current->lastError = S_current->sizeError;
             return S_current->sizeResult;
         }
-        if (S_current->jobResult && size >= kRecordSize) {
+        if (S_current->jobResult && size >= std::max<DWORD>(S_current->size, sizeof(JOB_INFO_1W))) {
             JOB_INFO_1W filled{};
             filled.Status = S_current->jobStatus;
             std::memcpy(record, &filled, sizeof filled);
@@ -73,7 +66,9 @@ struct FakeSpooler::Calls {
     static void* allocate(std::size_t size) {
         return S_current->mallocFails ? nullptr : S_current->m_malloc.original<void*(std::size_t)>()(size);
     }
-    static DWORD WINAPI lastError() { return S_current->lastError; }
+    static DWORD WINAPI lastError() {
+        return S_current->lastError ? *S_current->lastError : S_current->m_getLastError.original<DWORD WINAPI()>()();
+    }
     static int WINAPI messageBox(HWND, const wchar_t* text, const wchar_t*, UINT style) {
         S_current->write("MessageBox");
         S_current->messageText = text;

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include <windows.h>
+#include <winspool.h>
 
 #include "support/ImportPatch.h"
 
@@ -20,13 +22,14 @@ public:
     /// Called with the number of the page that starts or ends, counted from 1 in each job; give the call's result.
     std::function<int(int)> onStartPage = [](int) { return 1; };
     std::function<int(int)> onEndPage = [](int) { return 1; };
-    /// What GetLastError answers to the library.
-    DWORD lastError = 0;
+    /// What GetLastError answers to the library; nothing stands for the system's own answer.
+    std::optional<DWORD> lastError = 0;
     bool printerOpens = true;
     std::size_t openedPrinters = 0; ///< each has a handle of its own
     /// Of the first GetJobW, which asks for the size, and of the second.
     BOOL sizeResult = FALSE;
     DWORD sizeError = ERROR_INSUFFICIENT_BUFFER;
+    DWORD size = sizeof(JOB_INFO_1W) + 100; ///< texts follow the record
     BOOL jobResult = TRUE;
     DWORD jobStatus = 0;
     bool mallocFails = false;

@@ -149,3 +149,25 @@ TEST_F(LostPrinter, IsNeverClosed) {
         EXPECT_THROW(support::ImportPatch(module, "winspool.drv", "ClosePrinter", ::ClosePrinter), std::runtime_error);
     }
 }
+
+namespace {
+
+using LostContext = PrintingFixture;
+
+} // namespace
+
+TEST_F(LostContext, FailsTheJobWithTheSystemsOwnCalls) {
+    printable.onPrint = [this](CDC&, PrintInfo&) { printer.dialog.PrinterDC(nullptr); };
+    print();
+    // It is the system's choice whether the page in work or the next one fails.
+    const std::string calls = printable.takeCalls();
+    const std::string kFirstPage = "begin prepare:1 prepare:1 print:1";
+    EXPECT_TRUE(calls == kFirstPage + " end" || calls == kFirstPage + " prepare:2 end") << calls;
+    const std::string lines = log.take();
+    EXPECT_TRUE(lines.starts_with(kBeginning + drawn(1))) << lines;
+    EXPECT_NE(std::string::npos, lines.find("Nast\xB9pi\xB3 b\xB3\xB9"
+                                            "d drukowania i zosta\xB3o ono przerwane\nGetLastError() == "))
+        << lines;
+    EXPECT_TRUE(mainWindowIsEnabled());
+    EXPECT_EQ(nullptr, statusWindow());
+}

@@ -151,6 +151,15 @@ TEST_F(PrintInfos, TakeBothResolutionsOfTheDevice) {
     EXPECT_EQ(CRect(0, 0, 960, 480), m_info.PrintAreaInObjectUnits());
 }
 
+TEST_F(PrintInfos, BeginTheAreaInLogicalInchesAtTheEdgeOfTheSheet) {
+    SheetDevice device(kSheets[1]);
+    device.dc()->SetWindowOrg(50, 70);
+    device.dc()->SetViewportOrg(300, 600);
+    m_info.PrepareDCAndPrintArea(true, device.dc(), CRect());
+    EXPECT_EQ(CPoint(50, 70), device.dc()->GetWindowOrg());
+    EXPECT_EQ(CRect(CPoint(50 - 96, 70 - 192), CSize(794, 1123)), m_info.PrintAreaInObjectUnits());
+}
+
 TEST_F(PrintInfos, FitTheWidthOfAnObjectToTheSheetWithOneScale) {
     for (const Sheet& sheet : kSheets) {
         SheetDevice device(sheet);
@@ -189,6 +198,16 @@ TEST_F(PrintInfos, GiveTheSameAreaWhenAPageIsPreparedTwice) {
         m_info.PrepareDCAndPrintArea(useLogicalInches, device.dc(), CRect(0, 0, 400, 300));
         EXPECT_EQ(once, m_info.PrintAreaInObjectUnits()) << useLogicalInches;
     }
+}
+
+TEST_F(PrintInfos, TakeAnObjectWithItsEdgesChangedRoundAsItIs) {
+    SheetDevice device(kScreenSheet);
+    m_info.PrepareDCAndPrintArea(false, device.dc(), CRect(430, 40, 33, 50));
+    EXPECT_EQ(CSize(-397, -397), device.dc()->GetWindowExt());
+    EXPECT_EQ(CSize(794, 794), device.dc()->GetViewportExt());
+    EXPECT_EQ(CPoint(0, 0), m_info.PrintAreaInObjectUnits().TopLeft());
+    EXPECT_EQ(-397, m_info.PrintAreaInObjectUnits().Width());
+    EXPECT_NEAR(-562, m_info.PrintAreaInObjectUnits().Height(), 1);
 }
 
 TEST_F(PrintInfos, SurviveAnObjectWithoutWidth) {

@@ -1,7 +1,6 @@
 #include "PrintingFixture.h"
 
 #include <limits>
-#include <stdexcept>
 #include <thread>
 
 using namespace PrintLogText;
@@ -184,102 +183,6 @@ TEST_F(PrintStrategyJobs, AreAbortedWhenAPageCannotStart) {
     EXPECT_EQ(kBeginning + drawn(1) + page(2) + "dcPrint.StartPage() < 0\n" + failedEnd(1804), log.take());
 }
 
-namespace {
-
-/// What follows the failed end of page 2 of 3.
-struct PageFailure {
-    const char* what;
-    void (*arrange)(FakeSpooler&);
-    const char* calls; ///< to the spooler
-    const char* line;  ///< of the log
-    int error;         ///< at the end of the log
-};
-
-class PrintStrategyFailedPages : public SpooledPrintingFixture, public testing::WithParamInterface<PageFailure> {};
-
-constexpr const char* kOpen = " OpenPrinter(Drukarka główna)";
-constexpr DWORD kPaused = 0x1;
-constexpr DWORD kRestart = 0x800;
-
-const PageFailure kPageFailures[] = {
-    {"PrinterThatCannotBeOpened", [](FakeSpooler& spooler) { spooler.printerOpens = false; }, "",
-     "Nie mo\xBFna u\xBFy\xE6 wybranej drukarki: Drukarka g\xB3\xF3wna\n", 5},
-    {"JobThatIsGoneAtTheFirstLook", [](FakeSpooler& spooler) { spooler.sizeError = ERROR_INVALID_PARAMETER; },
-     " GetJob(77,1)", "", ERROR_INVALID_PARAMETER},
-    {"JobThatIsGoneAtTheSecondLook",
-     [](FakeSpooler& spooler) {
-         spooler.jobResult = FALSE;
-         spooler.jobStatus = kRestart;
-     },
-     " GetJob(77,1) GetJob(77,1)", "Status zadania drukowania == 0\n", ERROR_INSUFFICIENT_BUFFER},
-    {"JobThatIsNotRestarting", [](FakeSpooler& spooler) { spooler.jobStatus = kPaused | 0x400; },
-     " GetJob(77,1) GetJob(77,1)", "Status zadania drukowania == 1025\n", ERROR_INSUFFICIENT_BUFFER},
-    {"JobWithTheHighestBit", [](FakeSpooler& spooler) { spooler.jobStatus = 0x80000000; }, " GetJob(77,1) GetJob(77,1)",
-     "Status zadania drukowania == -2147483648\n", ERROR_INSUFFICIENT_BUFFER},
-    {"LackOfMemoryForTheJobRecord",
-     [](FakeSpooler& spooler) {
-         spooler.mallocFails = true;
-         spooler.jobStatus = kRestart;
-     },
-     " GetJob(77,1)", "Brak informacji o utworzonym zadaniu drukowania.\n", ERROR_INSUFFICIENT_BUFFER},
-};
-
-} // namespace
-
-TEST_P(PrintStrategyFailedPages, AbortTheJob) {
-    const PageFailure& failure = GetParam();
-    spooler.onEndPage = [this](int number) {
-        spooler.lastError = 5;
-        return number == 2 ? -1 : 1;
-    };
-    failure.arrange(spooler);
-    print();
-    EXPECT_EQ(kStart + printed(1) + printed(2) + kOpen + failure.calls + " AbortDoc end | main enabled, entry gone",
-              takeStory());
-    EXPECT_EQ(kBeginning + drawn(1) + drawn(2) + failure.line + failedEnd(failure.error), log.take());
-}
-
-INSTANTIATE_TEST_SUITE_P(WithA, PrintStrategyFailedPages, testing::ValuesIn(kPageFailures),
-                         [](const auto& tested) { return std::string(tested.param.what); });
-
-TEST_F(PrintStrategyJobs, ForgiveAFailedPageWhileTheSpoolerRestartsTheJob) {
-    for (const DWORD status : {kRestart, kRestart | kPaused}) {
-        spooler.jobStatus = status;
-        spooler.onEndPage = [this](int number) {
-            spooler.lastError = 5;
-            return number == 2 ? -1 : 1;
-        };
-        print();
-        EXPECT_EQ(kStart + printed(1) + printed(2) + kOpen + " GetJob(77,1) GetJob(77,1)" + printed(3) +
-                      " EndDoc end | main enabled, entry gone",
-                  takeStory());
-        EXPECT_EQ(kBeginning + drawn(1) + drawn(2) + drawn(3) + kGoodEnd, log.take());
-    }
-}
-
-TEST_F(PrintStrategyJobs, LookForACancellationAlsoAfterAForgivenPage) {
-    spooler.jobStatus = kRestart;
-    spooler.onEndPage = [this](int) {
-        spooler.lastError = 5;
-        printable.isAborted = true;
-        return -1;
-    };
-    print();
-    EXPECT_EQ(kStart + printed(1) + kOpen + " GetJob(77,1) GetJob(77,1) AbortDoc end | main enabled, entry gone",
-              takeStory());
-    EXPECT_EQ(kBeginning + drawn(1) + kCancelled + failedEnd(ERROR_INSUFFICIENT_BUFFER), log.take());
-}
-
-TEST_F(PrintStrategyJobs, TakeAFailedPageWithoutAnErrorForASuccess) {
-    spooler.onEndPage = [this](int) {
-        spooler.lastError = 0;
-        return -1;
-    };
-    print();
-    EXPECT_EQ(kStart + printed(1) + printed(2) + printed(3) + " EndDoc end | main enabled, entry gone", takeStory());
-    EXPECT_EQ(kBeginning + drawn(1) + drawn(2) + drawn(3) + kGoodEnd, log.take());
-}
-
 TEST_F(PrintStrategyJobs, AreCancelledByThePrintable) {
     printable.onPrint = [this](CDC&, PrintInfo& info) { printable.isAborted = info.CurrentPage() == 2; };
     spooler.lastError = 63;
@@ -396,49 +299,9 @@ TEST_F(PrintStrategyJobs, RunWithoutAPrinterAsFarAsTheSpoolerSaysNo) {
     spooler.startDocResult = -1;
     print();
     EXPECT_EQ(kStart + " end MessageBox", calls);
+    calls.clear();
+    spooler.startDocResult = 77;
+    print();
+    EXPECT_EQ(kStart + printed(1) + printed(2) + printed(3) + " EndDoc end | main enabled, entry gone", takeStory())
+        << "the entry is no printer's, and goes like any other";
 }
-
-namespace {
-
-enum class Place { Begin, Prepare, Print, End };
-
-class PrintStrategyThrowingPrintable : public SpooledPrintingFixture, public testing::WithParamInterface<Place> {};
-
-} // namespace
-
-TEST_P(PrintStrategyThrowingPrintable, LeavesTheJobAsItIs) {
-    const RecordingPrintable::Hook fail = [](CDC&, PrintInfo&) { throw std::runtime_error("host"); };
-    std::string expected = "begin";
-    bool isMainEnabled = false;
-    switch (GetParam()) {
-    case Place::Begin:
-        printable.onBegin = fail;
-        isMainEnabled = true; // it is disabled only after that
-        break;
-    case Place::Prepare:
-        printable.onPrepare = fail;
-        expected = kStart + " prepare:1";
-        break;
-    case Place::Print:
-        printable.onPrint = fail;
-        expected = kStart + " prepare:1 StartPage prepare:1 print:1";
-        break;
-    case Place::End:
-        printable.onEnd = fail;
-        expected = kStart + printed(1) + printed(2) + printed(3) + " EndDoc end";
-        isMainEnabled = true; // it is enabled before that
-        break;
-    }
-    EXPECT_THROW(print(), std::runtime_error);
-    EXPECT_EQ(expected, calls);
-    EXPECT_EQ(isMainEnabled, mainWindowIsEnabled());
-    EXPECT_EQ(nullptr, statusWindow());
-    EXPECT_NE(0U, ::GetObjectType(printer.dc())) << "the context is its owner's";
-    EXPECT_EQ(1, printer.info.use_count());
-    if (spooler.abortProcedure != nullptr) { // set after the beginning
-        EXPECT_EQ(GetParam() != Place::End, isRegistered());
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(In, PrintStrategyThrowingPrintable,
-                         testing::Values(Place::Begin, Place::Prepare, Place::Print, Place::End));

@@ -2,7 +2,10 @@
 
 #include <chrono>
 
+#include <OrtinFoundation/Log.h>
+
 #include "support/Capture.h"
+#include "support/ImportPatch.h"
 #include "support/Pump.h"
 #include "support/Resources.h"
 
@@ -110,4 +113,34 @@ TEST_F(StatusWindows, OfAThousandJobsLeaveNothingBehind) {
     EXPECT_EQ(before.gdiHandles, after.gdiHandles);
     EXPECT_EQ(before.windows, after.windows);
     EXPECT_LT(after.heapBytes, before.heapBytes + 100'000);
+}
+
+TEST_F(StatusWindows, AreOnTheScreenBeforeTheDocumentStarts) {
+    int looks = 0;
+    OrtinTools::Log::Instance().SetSink([&](std::string_view, int, std::string_view text) {
+        if (text.starts_with("Rozpocz")) {
+            ++looks;
+            EXPECT_TRUE(::IsWindowVisible(statusWindow()));
+            EXPECT_FALSE(::GetUpdateRect(statusWindow(), nullptr, FALSE));
+            for (const int item : {201, 202, 203, IDCANCEL}) {
+                const HWND child = ::GetDlgItem(statusWindow(), item);
+                EXPECT_FALSE(::GetUpdateRect(child, nullptr, FALSE)) << item;
+                const support::Pixels picture = pictureOfItem(item);
+                EXPECT_FALSE(picture.onlyColour(picture.bounds())) << item;
+            }
+        }
+    });
+    print();
+    EXPECT_EQ(1, looks);
+}
+
+TEST_F(StatusWindows, ThatCannotBeMadeAreDoneWithout) {
+    const support::ImportPatch noDialog(
+        ::GetModuleHandleW(L"OrtinMfc.dll"), "user32.dll", "CreateDialogIndirectParamW",
+        +[](HINSTANCE, LPCDLGTEMPLATEW, HWND, DLGPROC, LPARAM) WINAPI -> HWND { return nullptr; });
+    print();
+    EXPECT_EQ("begin prepare:1 prepare:1 print:1 prepare:2 prepare:2 print:2 prepare:3 prepare:3 print:3 end",
+              printable.takeCalls());
+    EXPECT_TRUE(mainWindowIsEnabled());
+    EXPECT_TRUE(::IsWindowVisible(mainWindow));
 }
