@@ -84,8 +84,7 @@ protected:
     }
     void drawLine() const {
         takeTool();
-        support::drag(at(0.2, 0.5), at(0.6, 0.3));
-        settle();
+        drag(at(0.2, 0.5), at(0.6, 0.3));
     }
 };
 
@@ -103,7 +102,7 @@ TEST_F(ChartByMouse, ALineIsDrawnDraggedByItsEndSelectedAndDeleted) {
     const std::optional<RECT> before = drawn.boundsOf(lineColour());
 
     // Longer by its right end; the left one stays.
-    support::drag(at(0.6, 0.3), at(0.7, 0.45));
+    drag(at(0.6, 0.3), at(0.7, 0.45));
     const support::Pixels dragged = chart();
     const std::optional<RECT> after = dragged.boundsOf(lineColour());
     ASSERT_TRUE(before && after);
@@ -175,8 +174,7 @@ TEST_F(ChartByMouse, ShiftAndADragSelectARangeAndDeleteRemovesIt) {
 TEST_F(ChartByMouse, ADragOnThePlotMovesTheChartAndTheBar) {
     start();
     const auto [left, right] = thumb();
-    support::drag(at(0.3, 0.2), at(0.7, 0.2));
-    settle();
+    drag(at(0.3, 0.2), at(0.7, 0.2));
     EXPECT_LT(thumb().first, left);
     EXPECT_NEAR(thumb().second - thumb().first, right - left, 1);
 }

@@ -47,8 +47,7 @@ protected:
     void drawLine() const {
         support::click(onScreen(canvas(), scaled(60), scaled(60)));
         support::typeKey('L');
-        support::drag(onScreen(canvas(), scaled(80), scaled(50)), onScreen(canvas(), scaled(400), scaled(90)));
-        settle();
+        drag(onScreen(canvas(), scaled(80), scaled(50)), onScreen(canvas(), scaled(400), scaled(90)));
     }
 };
 

@@ -18,7 +18,7 @@ constexpr std::size_t PriceEarnings = 4;
 TEST_F(ColumnsByMouse, DraggingABorderResizesTheColumnAndTheWidthIsKept) {
     start();
     const int border = columnRight(Name) - 1;
-    support::drag(onScreen(header(), border, scaled(10)), onScreen(header(), border + scaled(40), scaled(10)));
+    drag(onScreen(header(), border, scaled(10)), onScreen(header(), border + scaled(40), scaled(10)));
     close();
     EXPECT_NEAR(keptWidth("name"), 220.0, 1.0);
     EXPECT_NEAR(keptWidth("symbol"), 70.0, 1.0);
@@ -37,7 +37,7 @@ TEST_F(ColumnsByMouse, InColumnsThatFollowTheWindowAWiderOneTakesFromThoseAfterI
 
     start();
     const int border = scaled(static_cast<int>(symbol + name)) - 1;
-    support::drag(onScreen(header(), border, scaled(10)), onScreen(header(), border + scaled(40), scaled(10)));
+    drag(onScreen(header(), border, scaled(10)), onScreen(header(), border + scaled(40), scaled(10)));
     close();
     EXPECT_NEAR(keptWidth("symbol"), symbol, 0.01);
     EXPECT_NEAR(keptWidth("name"), name + 40.0, 2.0);
@@ -56,7 +56,7 @@ TEST_F(ColumnsByMouse, ADoubleClickOnABorderFitsTheColumnToItsTexts) {
 
 TEST_F(ColumnsByMouse, DraggingAHeaderMovesTheColumnForTheScreenTheClipboardAndTheNextStart) {
     start();
-    support::drag(title(Price), title(Symbol));
+    drag(title(Price), title(Symbol));
     support::click(onScreen(body(), scaled(30), rowHeight() / 2));
     const std::wstring text = copied();
     EXPECT_EQ(text.substr(0, text.find(L'\t')), L"100,50");

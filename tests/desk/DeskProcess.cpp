@@ -217,17 +217,42 @@ void DeskOnScreen::start(const std::vector<std::wstring>& more) {
         settle();
 }
 
+void DeskOnScreen::catchUp() const {
+    // With each answer the desk has come round to its queue once more, and between two it takes what waits there: on a
+    // busy machine no time says as much.
+    constexpr int Rounds = 20;
+    constexpr UINT Patience = 10000;
+    for (int round = 0; round < Rounds; ++round) {
+        ASSERT_TRUE(::SendMessageTimeoutW(m_desk, WM_NULL, 0, 0, SMTO_NORMAL, Patience, nullptr))
+            << "the desk does not answer";
+    }
+}
+
 void DeskOnScreen::settle() const {
     // What is still to come of a repaint comes within this time.
     constexpr auto Stillness = std::chrono::milliseconds(120);
+    catchUp();
     support::Pixels before = pixelsOf(m_desk);
     EXPECT_TRUE(eventually([&] {
         support::pumpFor(Stillness);
+        catchUp();
         support::Pixels now = pixelsOf(m_desk);
         const bool still = now == before;
         before = std::move(now);
         return still;
     })) << "the desk does not come to rest";
+}
+
+void DeskOnScreen::drag(POINT from, POINT to) const {
+    support::moveMouse(from);
+    support::pressButton();
+    constexpr int Steps = 8;
+    for (int step = 1; step <= Steps; ++step)
+        support::moveMouse({from.x + (to.x - from.x) * step / Steps, from.y + (to.y - from.y) * step / Steps});
+    // A move that comes together with the release is lost.
+    settle();
+    support::releaseButton();
+    settle();
 }
 
 void DeskOnScreen::clickWith(WORD key, POINT point) const {
@@ -359,6 +384,7 @@ POINT DeskOnScreen::title(std::size_t position) const {
 std::wstring DeskOnScreen::copied() {
     const std::wstring nothing = L"nothing copied";
     OrtinTools::Clipboard::SetClipboardString(nullptr, nothing);
+    settle();
     support::chord({VK_CONTROL, 'C'});
     std::optional<std::wstring> text;
     eventually([&] {
@@ -369,12 +395,12 @@ std::wstring DeskOnScreen::copied() {
 }
 
 std::string DeskOnScreen::copiedSymbols() {
-    const std::string text = OrtinTools::String::WideToUtf8(copied());
+    std::istringstream text(OrtinTools::String::WideToUtf8(copied()));
     std::string symbols;
-    for (std::size_t row = 0; row < text.size(); row = text.find('\n', row) + 1) {
+    for (std::string row; std::getline(text, row);) {
         if (!symbols.empty())
             symbols += ' ';
-        symbols += text.substr(row, text.find_first_of("\t\r", row) - row);
+        symbols += row.substr(0, row.find_first_of("\t\r"));
     }
     return symbols;
 }

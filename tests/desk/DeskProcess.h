@@ -51,6 +51,8 @@ protected:
 
     /// Waits until nothing moves on the desk any more: what the hands did has had its effect.
     void settle() const;
+    /// Presses at `from`, releases at `to` when the desk has followed there, and waits until it rests.
+    void drag(POINT from, POINT to) const;
     /// A click with a key held down.
     void clickWith(WORD key, POINT point) const;
     /// Two clicks that are no double click.
@@ -83,6 +85,8 @@ protected:
     TemporaryFolder m_folder;
 
 private:
+    /// Waits until the desk has taken from its queue what the hands put there.
+    void catchUp() const;
     std::filesystem::path m_settings = m_folder.file(L"settings.txt");
     HANDLE m_process = nullptr;
     HWND m_desk = nullptr;

@@ -221,10 +221,10 @@ TEST_F(PrintByKeys, TheBarsOfThePreviewMoveItsPagesUnderTheMouse) {
         const support::Pixels track = pixelsOf(bar);
         const POINT start = onScreen(bar, scaled(7), scaled(7));
         const POINT end = onScreen(bar, track.width() - scaled(7), track.height() - scaled(7));
-        support::drag(start, end);
+        drag(start, end);
         EXPECT_TRUE(eventually([&] { return pixelsOf(pages) != before && pixelsOf(bar) != track; })) << id;
         settle();
-        support::drag(end, start);
+        drag(end, start);
         EXPECT_TRUE(eventually([&] { return pixelsOf(pages) == before; })) << id;
     }
     support::click(onScreen(::GetDlgItem(preview, FitWidthId), 5, 5));

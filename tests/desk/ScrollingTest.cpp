@@ -39,7 +39,7 @@ TEST_F(Scrolling, DraggingTheThumbToTheEndShowsTheLastRow) {
     start();
     const support::Pixels bar = pixelsOf(scrollBar());
     const int middle = bar.width() / 2;
-    support::drag(onScreen(scrollBar(), middle, scaled(10)), onScreen(scrollBar(), middle, bar.height() + 40));
+    drag(onScreen(scrollBar(), middle, scaled(10)), onScreen(scrollBar(), middle, bar.height() + 40));
     const support::Pixels view = pixelsOf(body());
     support::click(onScreen(body(), scaled(100), view.height() - 4));
     EXPECT_EQ(copiedSymbols(), "S59");

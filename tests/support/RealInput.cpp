@@ -114,12 +114,23 @@ void tiltWheel(POINT point, int delta) {
 }
 
 void pressKey(WORD virtualKey) {
-    if (virtualKey == VK_CONTROL || virtualKey == VK_SHIFT || virtualKey == VK_MENU) {
-        // A display server that has just moved the focus tells a moment later which keys are down; told after the
-        // press, it would release the key again.
-        pumpFor(std::chrono::milliseconds(50));
+    if (virtualKey != VK_CONTROL && virtualKey != VK_SHIFT && virtualKey != VK_MENU) {
+        sendKey(virtualKey, 0);
+        return;
     }
-    sendKey(virtualKey, 0);
+    // A display server that has just moved the focus tells a moment later which keys are down; told after the press, it
+    // releases the key again.
+    constexpr std::chrono::milliseconds moment(60);
+    constexpr int tries = 5;
+    pumpFor(moment);
+    for (int press = 0; press < tries; ++press) {
+        sendKey(virtualKey, 0);
+        pumpFor(moment);
+        if (::GetAsyncKeyState(virtualKey) < 0) {
+            return;
+        }
+    }
+    throw std::runtime_error("the display does not keep the key down");
 }
 
 void releaseKey(WORD virtualKey) {
