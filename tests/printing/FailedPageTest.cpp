@@ -31,9 +31,15 @@ const PageFailure kPageFailures[] = {
     {"JobThatIsGoneAtTheSecondLook",
      [](FakeSpooler& spooler) {
          spooler.jobResult = FALSE;
-         spooler.jobStatus = kRestart;
+         spooler.recordIsFilled = false;
      },
      " GetJob(77,1) GetJob(77,1)", "Status zadania drukowania == 0\n", ERROR_INSUFFICIENT_BUFFER},
+    {"JobThatIsGoneButLeftItsRecord",
+     [](FakeSpooler& spooler) {
+         spooler.jobResult = FALSE;
+         spooler.jobStatus = kRestart;
+     },
+     " GetJob(77,1) GetJob(77,1)", "Status zadania drukowania == 2048\n", ERROR_INSUFFICIENT_BUFFER},
     {"JobThatIsNotRestarting", [](FakeSpooler& spooler) { spooler.jobStatus = kPaused | 0x400; },
      " GetJob(77,1) GetJob(77,1)", "Status zadania drukowania == 1025\n", ERROR_INSUFFICIENT_BUFFER},
     {"JobWithTheHighestBit", [](FakeSpooler& spooler) { spooler.jobStatus = 0x80000000; }, " GetJob(77,1) GetJob(77,1)",

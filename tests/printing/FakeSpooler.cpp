@@ -56,7 +56,7 @@ struct FakeSpooler::Calls {
             S_current->lastError = S_current->sizeError;
             return S_current->sizeResult;
         }
-        if (S_current->jobResult && size >= std::max<DWORD>(S_current->size, sizeof(JOB_INFO_1W))) {
+        if (S_current->recordIsFilled && size >= std::max<DWORD>(S_current->size, sizeof(JOB_INFO_1W))) {
             JOB_INFO_1W filled{};
             filled.Status = S_current->jobStatus;
             std::memcpy(record, &filled, sizeof filled);

@@ -32,6 +32,7 @@ public:
     DWORD size = sizeof(JOB_INFO_1W) + 100; ///< texts follow the record
     BOOL jobResult = TRUE;
     DWORD jobStatus = 0;
+    bool recordIsFilled = true; ///< whatever the result
     bool mallocFails = false;
     /// Where the calls go: "StartDoc(Notowania) StartPage EndPage OpenPrinter(Drukarka) GetJob(77,1) EndDoc".
     std::string* calls = &m_calls;

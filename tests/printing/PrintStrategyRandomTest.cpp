@@ -180,6 +180,7 @@ protected:
         spooler.printerOpens = plan.end != EndOfPage::NoPrinter;
         spooler.sizeError = plan.end == EndOfPage::Gone ? ERROR_INVALID_PARAMETER : ERROR_INSUFFICIENT_BUFFER;
         spooler.jobResult = plan.end == EndOfPage::Vanishing ? FALSE : TRUE;
+        spooler.recordIsFilled = plan.end != EndOfPage::Vanishing;
         spooler.jobStatus = plan.end == EndOfPage::Stuck ? JOB_STATUS_ERROR : JOB_STATUS_RESTART;
         spooler.mallocFails = plan.end == EndOfPage::NoMemory;
         printable.onPrepare = [this, plan](CDC&, PrintInfo& info) {

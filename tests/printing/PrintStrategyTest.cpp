@@ -164,6 +164,22 @@ TEST_F(PrintStrategyJobs, ThatCannotBeStartedSaySoAndStayRegistered) {
         << "a later job takes the entry over";
 }
 
+TEST_F(PrintStrategyJobs, TakeOverTheEntryOfAnotherPrintableOnTheirContext) {
+    RecordingPrintable refused;
+    int askedTheRefused = 0;
+    refused.onAborted = [&] { ++askedTheRefused; };
+    spooler.startDocResult = -1;
+    PrintStrategy().PrintObject(printer.info, &refused);
+    spooler.startDocResult = 77;
+    int askedTheirs = 0;
+    printable.pages = 1;
+    printable.onAborted = [&] { ++askedTheirs; };
+    printable.onPrint = [&](CDC&, PrintInfo&) { EXPECT_EQ(1, spooler.abortProcedure(printer.dc(), 0)); };
+    print();
+    EXPECT_EQ(0, askedTheRefused);
+    EXPECT_EQ(2, askedTheirs) << "by the spooler and after the page";
+}
+
 TEST_F(PrintStrategyJobs, TakeAnyOtherJobNumberForAJob) {
     for (const int number : {0, -2}) {
         spooler.startDocResult = number;
