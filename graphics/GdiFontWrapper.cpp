@@ -37,6 +37,8 @@ long unscaledHeight(long height) {
 
 } // namespace
 
+GdiFontWrapper::GdiFontWrapper() : GdiFontWrapper(0L) {}
+
 GdiFontWrapper::GdiFontWrapper(long weight) {
     ::GetObjectW(::GetStockObject(DEFAULT_GUI_FONT), sizeof m_description, &m_description);
     replaceWeight(m_description, weight);

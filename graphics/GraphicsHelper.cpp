@@ -1,5 +1,7 @@
 #include <OrtinControls/GraphicsHelper.h>
 
+#include <cstdint>
+
 #include "ColorArithmetic.h"
 #include "DpiArithmetic.h"
 
@@ -84,7 +86,7 @@ void GraphicsHelper::DrawGradientV(CDC& dc, const CRect& rect, unsigned long fir
 }
 
 void GraphicsHelper::DrawGradientH(CDC& dc, const CRect& rect, unsigned long first, unsigned long second) {
-    const int middle = (rect.left + rect.right) / 2;
+    const auto middle = static_cast<LONG>((std::int64_t{rect.left} + rect.right) / 2);
     TRIVERTEX vertices[] = {
         vertex(rect.left, rect.top, first),
         vertex(middle, rect.bottom, second),

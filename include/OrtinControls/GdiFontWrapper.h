@@ -20,7 +20,8 @@ class ORTIN_CONTROLS_API GdiFontWrapper {
 public:
     /// The system's default font of user interfaces, whose height is taken as one at 96 pixels an inch. Throws
     /// gsl::narrowing_error if its scaled height is beyond 32 bits.
-    explicit GdiFontWrapper(long weight = 0);
+    GdiFontWrapper();
+    explicit GdiFontWrapper(long weight);
     /// The height is not scaled.
     GdiFontWrapper(LOGFONTW description, long weight);
     /// An all-zero description and FromJson, whose exceptions leave the constructor.

@@ -155,25 +155,6 @@ TEST(ParameterStatuses, AreSuccessUnlessTheyHaveACode) {
     EXPECT_NE(failure, ParameterStatus());
 }
 
-TEST(Utf8, ChangesToWideAndBack) {
-    struct Case {
-        const char* utf8;
-        const wchar_t* wide;
-    };
-    const Case cases[] = {
-        {"", L""},
-        {"kurs", L"kurs"},
-        {"\xC5\xBC\xC3\xB3\xC5\x82", L"żół"},
-        {"\xF0\x9F\x93\x88", L"\xD83D\xDCC8"},
-    };
-    for (const Case& each : cases) {
-        EXPECT_EQ(each.wide, String::Utf8ToWide(each.utf8));
-        EXPECT_EQ(each.utf8, String::WideToUtf8(each.wide));
-    }
-    EXPECT_EQ(std::wstring(L"a\0b", 3), String::Utf8ToWide(std::string("a\0b", 3)));
-    EXPECT_EQ(L"a\xFFFD", String::Utf8ToWide("a\xFF").substr(0, 2));
-}
-
 TEST(LogCodePage, IsWindows1250WhateverTheSystemsOwn) {
     struct Case {
         const wchar_t* wide;

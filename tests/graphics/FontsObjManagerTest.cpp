@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <new>
 #include <set>
 #include <thread>
 #include <vector>
@@ -35,6 +36,16 @@ HFONT WINAPI refuseFont(const LOGFONTW*) {
 HFONT WINAPI makeFontSlowly(const LOGFONTW* description) {
     ::Sleep(1);
     return ::CreateFontIndirectW(description);
+}
+
+std::size_t allocationsLeft = 0;
+
+void* runOutOfMemory(std::size_t size) {
+    if (allocationsLeft == 0) {
+        throw std::bad_alloc();
+    }
+    --allocationsLeft;
+    return ::operator new(size);
 }
 
 class FontCache : public testing::Test {
@@ -154,6 +165,28 @@ TEST_F(FontCache, KeepsWhatTheSystemRefused) {
     EXPECT_EQ(nullptr, refused->GetSafeHandle());
     EXPECT_EQ(refused, cache.AddFont(tahoma()));
     EXPECT_EQ(1, createdFonts);
+}
+
+TEST_F(FontCache, StaysUsableWhereMemoryRunsOut) {
+    const std::size_t before = support::gdiHandleCount();
+    const LOGFONTW description = tahoma();
+    int failures = 0;
+    for (std::size_t allowed = 0; support::gdiHandleCount() == before; ++allowed) {
+        ASSERT_LT(allowed, 20U);
+        const support::ImportPatch patch(::GetModuleHandleW(L"OrtinControls.dll"), "libstdc++-6.dll", "_Znwy",
+                                         &runOutOfMemory);
+        allocationsLeft = allowed;
+        try {
+            cache.AddFont(description);
+        } catch (const std::bad_alloc&) {
+            ++failures;
+            ASSERT_EQ(before, support::gdiHandleCount()) << "a font that could not be kept is gone";
+        }
+    }
+    EXPECT_GE(failures, 3) << "key, font and entry";
+    EXPECT_EQ(before + 1, support::gdiHandleCount());
+    EXPECT_EQ(cache.AddFont(description), cache.AddFont(description));
+    EXPECT_EQ(before + 1, support::gdiHandleCount());
 }
 
 TEST_F(FontCache, HasOneInstance) {

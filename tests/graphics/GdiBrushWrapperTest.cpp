@@ -83,6 +83,11 @@ TEST(Brush, SharesNoHandleWithItsCopy) {
     EXPECT_EQ(describe(source), describe(assigned));
     EXPECT_NE(handle, assigned.GetHBRUSH());
     EXPECT_EQ(handle, source.GetHBRUSH());
+    const GdiBrushWrapper& itself = copy;
+    const HBRUSH own = copy.GetHBRUSH();
+    copy = itself;
+    EXPECT_FALSE(isAlive(own)) << "assigned to itself, it is no other brush, but asks anew";
+    EXPECT_EQ(describe(source), describe(copy));
 }
 
 TEST(Brush, IsEqualInHandleAlone) {
@@ -114,6 +119,9 @@ TEST(Brush, TakesTheDescriptionOfAHandleAndLeavesItToItsOwner) {
     const HBRUSH own = brush.GetHBRUSH();
     brush.FromHandle(foreign);
     EXPECT_EQ(own, brush.GetHBRUSH()) << "nothing is done for a dead handle";
+    brush.FromHandle(own);
+    EXPECT_FALSE(isAlive(own)) << "its own handle is one like another";
+    EXPECT_EQ(R"({"PenStyle":0,"PenClr":[255,0,0],"PenHatch":0})", describe(brush));
 }
 
 TEST(Brush, HasANullHandleIfTheSystemRefusesIt) {

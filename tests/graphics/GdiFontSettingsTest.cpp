@@ -8,6 +8,7 @@
 
 #include "GdiDescriptions.h"
 #include "PretendedScale.h"
+#include "support/ImportPatch.h"
 
 namespace {
 
@@ -33,6 +34,13 @@ std::string hexOf(const LOGFONTW& font) {
     return text;
 }
 
+constexpr LONG kGiantHeight = 2000000000;
+
+int WINAPI giveAGiantFont(HANDLE, int, LPVOID description) {
+    *static_cast<LOGFONTW*>(description) = tahoma(kGiantHeight);
+    return sizeof(LOGFONTW);
+}
+
 } // namespace
 
 TEST(DefaultFontAtScale, IsTheSystemsScaled) {
@@ -44,6 +52,27 @@ TEST(DefaultFontAtScale, IsTheSystemsScaled) {
     EXPECT_EQ(describe(stock), describe(font));
     stock.lfWeight = FW_BOLD;
     EXPECT_EQ(describe(stock), describe(GdiFontWrapper(FW_BOLD)));
+}
+
+TEST(DefaultFontAtScale, ThrowsIfItsScaledHeightIsBeyond32Bits) {
+    const support::ImportPatch patch(::GetModuleHandleW(L"OrtinControls.dll"), "gdi32.dll", "GetObjectW",
+                                     &giveAGiantFont);
+    if (pretendedScale() < 1.07) {
+        EXPECT_EQ(scaled(kGiantHeight), GdiFontWrapper().GetHeight());
+    } else {
+        EXPECT_THROW(GdiFontWrapper(), gsl::narrowing_error);
+        EXPECT_THROW(GdiFontWrapper(FW_BOLD), gsl::narrowing_error);
+    }
+    EXPECT_EQ(kGiantHeight, GdiFontWrapper(tahoma(kGiantHeight), 0).GetHeight()) << "unscaled and so unchecked";
+}
+
+TEST(DefaultFont, IsThatOfAMemberThatNobodyNames) {
+    struct Style {
+        COLORREF color;
+        GdiFontWrapper font;
+    };
+    const Style style = {};
+    EXPECT_TRUE(GdiFontWrapper(0) == style.font);
 }
 
 TEST(FontSettingsAtScale, AreANameAndThirteenNumbers) {

@@ -129,8 +129,20 @@ TEST(Font, GivesUpItsGdiFontWithEachChangeThoughTheKeyStays) {
     };
     const Case cases[] = {
         {"its own description", [](GdiFontWrapper& font) { font.FromLOGFONT(font.GetLOGFONT(), 0); }},
+        {"a handle of its own description",
+         [](GdiFontWrapper& font) {
+             const LOGFONTW description = font.GetLOGFONT();
+             const HFONT foreign = ::CreateFontIndirectW(&description);
+             font.FromHandle(foreign, 0);
+             ::DeleteObject(foreign);
+         }},
         {"an angle", [](GdiFontWrapper& font) { font.SetAngle(45); }},
         {"a copy of itself", [](GdiFontWrapper& font) { font = GdiFontWrapper(font); }},
+        {"itself",
+         [](GdiFontWrapper& font) {
+             const GdiFontWrapper& itself = font;
+             font = itself;
+         }},
     };
     for (const Case& c : cases) {
         GdiFontWrapper font(tahoma(-61), 0);

@@ -98,8 +98,10 @@ TEST(Pen, SharesNoHandleWithItsCopy) {
     source.DeletePen();
     EXPECT_TRUE(isAlive(copy.GetHPEN()));
     const GdiPenWrapper& itself = copy;
+    const HPEN own = copy.GetHPEN();
     copy = itself;
     EXPECT_EQ("0 2,0 255", describe(copy));
+    EXPECT_FALSE(isAlive(own)) << "assigned to itself, it is no other pen, but asks anew";
 }
 
 TEST(Pen, IsEqualInDescriptionAndHandle) {
@@ -133,6 +135,10 @@ TEST(Pen, TakesTheDescriptionOfAHandleAndLeavesItToItsOwner) {
     const HPEN own = pen.GetHPEN();
     pen.FromHandle(foreign);
     EXPECT_EQ(own, pen.GetHPEN()) << "nor for a handle that is dead";
+    const std::string description = describe(pen);
+    pen.FromHandle(own);
+    EXPECT_FALSE(isAlive(own)) << "its own handle is one like another";
+    EXPECT_EQ(description, describe(pen));
 }
 
 TEST(Pen, HasANullHandleIfTheSystemRefusesIt) {

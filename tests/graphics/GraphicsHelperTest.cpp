@@ -58,6 +58,10 @@ std::string describe(const GradientCall& call) {
     return std::string(text.GetString());
 }
 
+HPEN WINAPI refusePen(int, int, COLORREF) {
+    return nullptr;
+}
+
 class Drawing : public testing::Test {
 protected:
     Drawing() { dc.Attach(device.dc()); }
@@ -189,6 +193,45 @@ TEST_F(Drawing, AHorizontalGradientIsMirroredAtTheMiddle) {
         EXPECT_GT(redAt(x), redAt(x - 1)) << x;
         EXPECT_LT(redAt(20 + x), redAt(19 + x)) << 20 + x;
     }
+}
+
+TEST_F(Drawing, AHorizontalGradientHasItsMiddleCutTowardNought) {
+    struct Case {
+        CRect rect;
+        LONG middle;
+    };
+    constexpr LONG kFar = 2147483647;
+    const Case cases[] = {
+        {{0, 0, 5, 1}, 2},
+        {{-5, 0, 0, 1}, -2},
+        {{-4, 0, 1, 1}, -1},
+        {{kFar - 2, 0, kFar, 1}, kFar - 1},
+        {{-kFar, 0, -kFar + 2, 1}, -kFar + 1},
+    };
+    const support::ImportPatch patch(::GetModuleHandleW(L"OrtinControls.dll"), "msimg32.dll", "GradientFill",
+                                     &recordGradient);
+    for (const Case& c : cases) {
+        gradientCalls.clear();
+        GraphicsHelper::DrawGradientH(dc, c.rect, kRed, kBlue);
+        ASSERT_EQ(1U, gradientCalls.size());
+        EXPECT_EQ(c.middle, gradientCalls[0].vertices[1].x);
+        EXPECT_EQ(c.middle, gradientCalls[0].vertices[2].x);
+    }
+}
+
+TEST_F(Drawing, AFrameWithoutAPenThrowsAndLeavesTheDeviceAsItWas) {
+    const HGDIOBJ penBefore = ::GetCurrentObject(device.dc(), OBJ_PEN);
+    const support::ImportPatch patch(::GetModuleHandleW(L"OrtinMfc.dll"), "gdi32.dll", "CreatePen", &refusePen);
+    bool isThrown = false;
+    try {
+        GraphicsHelper::DrawRectangleFrame(&dc, CRect(5, 6, 20, 15), 1, kRed);
+    } catch (CResourceException* exception) {
+        exception->Delete();
+        isThrown = true;
+    }
+    EXPECT_TRUE(isThrown);
+    EXPECT_EQ(penBefore, ::GetCurrentObject(device.dc(), OBJ_PEN));
+    EXPECT_EQ(40U * 30U, device.pixels().count(kWhite));
 }
 
 TEST_F(Drawing, AFrameRunsOnItsRightAndBottomCoordinates) {

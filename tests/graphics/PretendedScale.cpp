@@ -38,15 +38,16 @@ const PretendedDpi pretendedDpi;
 } // namespace
 
 double pretendedScale() {
-    int dpi = 0;
-    if (const auto wanted = wantedDpi()) {
-        dpi = *wanted;
-    } else {
+    static const double scale = [] {
+        if (const auto wanted = wantedDpi()) {
+            return std::max(*wanted, 96) / 96.0;
+        }
         const HDC screen = ::GetDC(nullptr);
-        dpi = ::GetDeviceCaps(screen, LOGPIXELSX);
+        const int dpi = ::GetDeviceCaps(screen, LOGPIXELSX);
         ::ReleaseDC(nullptr, screen);
-    }
-    return std::max(dpi, 96) / 96.0;
+        return std::max(dpi, 96) / 96.0;
+    }();
+    return scale;
 }
 
 long scaled(int height) {

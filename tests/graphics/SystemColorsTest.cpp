@@ -65,6 +65,7 @@ public:
     }
 
     void set(DWORD value) { write(REG_DWORD, &value, sizeof value); }
+    void setBytes(DWORD value) { write(REG_BINARY, &value, sizeof value); }
     void setText(const std::wstring& text) {
         write(REG_SZ, text.c_str(), static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
     }
@@ -189,4 +190,6 @@ TEST_F(ThemeColours, OfWindowsAreUnknownWithoutTheValueOrWithOneOfAnotherKind) {
     EXPECT_EQ(std::nullopt, SystemColors::GetWindowsThemeSetting());
     setting.setText(L"1");
     EXPECT_EQ(std::nullopt, SystemColors::GetWindowsThemeSetting());
+    setting.setBytes(1);
+    EXPECT_EQ(std::nullopt, SystemColors::GetWindowsThemeSetting()) << "as wide as a number, but none";
 }
