@@ -43,6 +43,7 @@ protected:
             found = ::FindWindowW(nullptr, title);
             return found && ::IsWindowVisible(found) && ::GetForegroundWindow() == found;
         })) << title;
+        settle();
         return found;
     }
     static bool isOpen(const wchar_t* title) { return ::FindWindowW(nullptr, title) != nullptr; }
@@ -50,6 +51,7 @@ protected:
     void typePage(WORD mnemonic, const wchar_t* page) const {
         support::chord({VK_MENU, mnemonic});
         support::typeText(page);
+        settle();
     }
     /// The numbers of the printed pages in their order.
     std::string printedPages() const {
