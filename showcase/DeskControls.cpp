@@ -173,13 +173,13 @@ END_MESSAGE_MAP()
 
 BOOL DeskCombo::createIn(CWnd* parent, int id, DeskFonts& fonts) {
     m_fonts = &fonts;
-    constexpr DWORD Style =
-        WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
+    constexpr DWORD Style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
     if (!Create(Style, CRect(0, 0, 10, scaled(200)), parent, static_cast<UINT>(id)))
         return FALSE;
     SetFont(&fonts.text());
     SetItemHeight(-1, static_cast<UINT>(fonts.lineHeight() + scaled(4)));
     SetItemHeight(0, static_cast<UINT>(fonts.lineHeight() + scaled(6)));
+    m_list.adopt(*this);
     return TRUE;
 }
 
@@ -220,6 +220,7 @@ void DeskCombo::DrawItem(LPDRAWITEMSTRUCT item) {
         return;
     CDC& dc = *CDC::FromHandle(item->hDC);
     CRect area(item->rcItem);
+    area.right -= m_list.barWidth();
     dc.FillSolidRect(&area, (item->itemState & ODS_SELECTED) != 0 ? Colors::selectedRow() : Colors::input());
     CString text;
     GetLBText(static_cast<int>(item->itemID), text);

@@ -2,6 +2,7 @@
 
 #include <XTToolkitPro.h>
 
+#include "DeskDropList.h"
 #include "DeskFonts.h"
 
 namespace Desk {
@@ -53,7 +54,7 @@ private:
     Kind m_kind = Kind::Radio;
 };
 
-/// A drop-down list in the colours of the theme.
+/// A drop-down list in the colours of the theme, with all that drops down.
 class DeskCombo : public CComboBox {
 public:
     BOOL createIn(CWnd* parent, int id, DeskFonts& fonts);
@@ -71,6 +72,7 @@ private:
     void draw(CDC& dc);
 
     DeskFonts* m_fonts = nullptr;
+    DeskDropList m_list;
 };
 
 } // namespace Desk

@@ -6,7 +6,6 @@
 
 #include "DeskColors.h"
 #include "DeskFonts.h"
-#include "MouseLeaving.h"
 
 namespace Desk {
 
@@ -37,6 +36,10 @@ int DeskScrollBar::width() {
     return scaled(BarWidth);
 }
 
+int DeskScrollBar::leastThumb() {
+    return scaled(LeastThumb);
+}
+
 BOOL DeskScrollBar::createIn(CWnd* parent, int id) {
     return CWnd::Create(AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW)), L"", WS_CHILD | WS_VISIBLE,
                         CRect(0, 0, width(), width()), parent, static_cast<UINT>(id));
@@ -56,7 +59,7 @@ int DeskScrollBar::trackLength() const {
 }
 
 ThumbSpan DeskScrollBar::thumb() const {
-    return thumbSpan(m_state, trackLength(), scaled(LeastThumb));
+    return thumbSpan(m_state, trackLength(), leastThumb());
 }
 
 void DeskScrollBar::OnPaint() {
@@ -64,17 +67,23 @@ void DeskScrollBar::OnPaint() {
     CXTPBufferDC dc(paint);
     CRect client;
     GetClientRect(&client);
-    dc.FillSolidRect(&client, Colors::scrollTrack());
-    const bool isVertical = m_direction == Direction::Vertical;
-    CRect edge = client;
-    (isVertical ? edge.right : edge.bottom) = 1;
+    draw(dc, client, m_direction, thumb(), m_hot || m_drag);
+}
+
+void DeskScrollBar::draw(CDC& dc, const CRect& area, Direction direction, const ThumbSpan& thumb, bool isHot) {
+    dc.FillSolidRect(&area, Colors::scrollTrack());
+    const bool isVertical = direction == Direction::Vertical;
+    CRect edge = area;
+    if (isVertical)
+        edge.right = edge.left + 1;
+    else
+        edge.bottom = edge.top + 1;
     dc.FillSolidRect(&edge, Colors::line());
-    const ThumbSpan span = thumb();
-    CRect rect =
-        isVertical ? CRect(1, span.begin, client.right, span.end) : CRect(span.begin, 1, span.end, client.bottom);
-    const int inset = span.end > span.begin ? scaled(1) : 0;
+    CRect rect = isVertical ? CRect(area.left + 1, area.top + thumb.begin, area.right, area.top + thumb.end)
+                            : CRect(area.left + thumb.begin, area.top + 1, area.left + thumb.end, area.bottom);
+    const int inset = thumb.end > thumb.begin ? scaled(1) : 0;
     rect.DeflateRect(isVertical ? scaled(ThumbInset) : inset, isVertical ? inset : scaled(ThumbInset));
-    dc.FillSolidRect(&rect, m_hot || m_drag ? Colors::scrollThumbHot() : Colors::scrollThumb());
+    dc.FillSolidRect(&rect, isHot ? Colors::scrollThumbHot() : Colors::scrollThumb());
 }
 
 BOOL DeskScrollBar::OnEraseBkgnd(CDC*) {
@@ -110,17 +119,15 @@ void DeskScrollBar::OnLButtonUp(UINT, CPoint) {
 void DeskScrollBar::OnMouseMove(UINT, CPoint point) {
     const int place = along(point);
     if (m_drag && onScrollTo)
-        onScrollTo(positionForThumb(m_state, trackLength(), scaled(LeastThumb), place - m_drag->grip));
+        onScrollTo(positionForThumb(m_state, trackLength(), leastThumb(), place - m_drag->grip));
     if (m_paging)
         m_paging->target = place;
-    if (!m_hot)
-        watchMouseLeaving(m_hWnd);
     const ThumbSpan span = thumb();
-    setHot(place >= span.begin && place < span.end);
+    m_hot.moveTo(place >= span.begin && place < span.end);
 }
 
 void DeskScrollBar::OnMouseLeave() {
-    setHot(false);
+    m_hot.leave();
 }
 
 void DeskScrollBar::OnCaptureChanged(CWnd*) {
@@ -145,13 +152,6 @@ void DeskScrollBar::endGestures() {
     KillTimer(PagingTimer);
     m_drag.reset();
     m_paging.reset();
-    Invalidate(FALSE);
-}
-
-void DeskScrollBar::setHot(bool hot) {
-    if (m_hot == hot)
-        return;
-    m_hot = hot;
     Invalidate(FALSE);
 }
 

@@ -5,6 +5,7 @@
 
 #include <afxwin.h>
 
+#include "HotItem.h"
 #include "core/ScrollThumb.h"
 
 namespace Desk {
@@ -19,6 +20,10 @@ public:
 
     /// Across its direction.
     static int width();
+    /// The shortest thumb.
+    static int leastThumb();
+    /// The looks of a bar that fills `area`.
+    static void draw(CDC& dc, const CRect& area, Direction direction, const ThumbSpan& thumb, bool isHot);
 
     BOOL createIn(CWnd* parent, int id);
     void setState(const ScrollState& state);
@@ -53,13 +58,12 @@ private:
     ThumbSpan thumb() const;
     void turnPage();
     void endGestures();
-    void setHot(bool hot);
 
     Direction m_direction;
     ScrollState m_state;
     std::optional<ThumbDrag> m_drag;
     std::optional<Paging> m_paging;
-    bool m_hot = false;
+    HotItem<bool> m_hot{*this, false}; ///< whether the thumb is
 };
 
 } // namespace Desk

@@ -102,7 +102,8 @@ BOOL DeskWindow::open() {
             L"OrtinDesk – notowania", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT,
             std::min(rect.Width(), screen.Width()), std::min(rect.Height(), screen.Height()), nullptr, nullptr))
         return FALSE;
-    // Now that the table has a height, it scrolls to the row.
+    // A window hears of its first size when it is shown; the table has to have its height to scroll to a row.
+    placeWindows();
     showFirstKnown();
     return TRUE;
 }
@@ -274,13 +275,16 @@ void DeskWindow::onSelectionChanged() {
 /// The chart is that of the row with the caret.
 void DeskWindow::showInstrument() {
     const std::optional<std::size_t> instrument = m_handler.caretInstrument();
-    m_chart.show(instrument ? &m_book.at(*instrument) : nullptr);
+    if (instrument)
+        m_chart.show(&m_book.at(*instrument), m_book.session(*instrument));
+    else
+        m_chart.show(nullptr);
 }
 
 /// At the start the caret stands where there is something to see.
 void DeskWindow::showFirstKnown() {
     for (std::size_t instrument = 0; instrument < m_book.size(); ++instrument)
-        if (m_chart.model().source().knows(m_book.at(instrument))) {
+        if (m_chart.model().source().knows(m_book.at(instrument).symbol)) {
             m_table.SelectItem(m_handler.rowOf(instrument), false);
             break;
         }
@@ -301,6 +305,9 @@ void DeskWindow::onTicked(const Tick& last) {
     time.Format(L"%02u:%02u:%02u", now.wHour, now.wMinute, now.wSecond);
     m_status.setField(TickField, m_book.text(last.instrument, QuoteColumn::Symbol) + L"  " +
                                      m_book.text(last.instrument, QuoteColumn::Price) + L"  o " + time.GetString());
+    if (const std::optional<std::size_t> shown = m_handler.caretInstrument())
+        if (const PriceSession* session = m_book.session(*shown))
+            m_chart.follow(*session);
     if (!m_fading)
         m_fading = SetTimer(FadingTimer, FadingPause) != 0;
 }

@@ -17,7 +17,8 @@ std::wstring cellText(QuoteColumn column, const Instrument& instrument) {
 
 QuoteBook::QuoteBook(std::vector<Instrument> instruments)
     : m_instruments(std::move(instruments)),
-      m_texts(m_instruments.size()) {
+      m_texts(m_instruments.size()),
+      m_sessions(m_instruments.size()) {
     for (std::size_t instrument = 0; instrument < m_instruments.size(); ++instrument)
         for (const QuoteColumnInfo& info : QuoteColumns)
             m_texts[instrument][static_cast<std::size_t>(info.column)] =
@@ -37,9 +38,18 @@ std::vector<std::optional<double>> QuoteBook::prices() const {
 }
 
 void QuoteBook::setPrice(std::size_t instrument, double price) {
+    std::optional<PriceSession>& session = m_sessions[instrument];
+    if (!session)
+        session.emplace(m_instruments[instrument].price.value_or(price));
+    session->take(price);
     m_instruments[instrument].price = price;
     m_texts[instrument][static_cast<std::size_t>(QuoteColumn::Price)] =
         cellText(QuoteColumn::Price, m_instruments[instrument]);
+}
+
+const PriceSession* QuoteBook::session(std::size_t instrument) const {
+    const std::optional<PriceSession>& session = m_sessions[instrument];
+    return session ? &*session : nullptr;
 }
 
 bool QuoteBook::isKnown(std::size_t instrument, QuoteColumn column) const {

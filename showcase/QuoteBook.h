@@ -2,10 +2,12 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "core/Instruments.h"
+#include "core/PriceSession.h"
 #include "core/QuoteColumns.h"
 
 namespace Desk {
@@ -23,6 +25,8 @@ public:
     /// The price before the first tick, if it is known.
     std::vector<std::optional<double>> prices() const;
     void setPrice(std::size_t instrument, double price);
+    /// Null before the first tick.
+    const PriceSession* session(std::size_t instrument) const;
 
     /// Ascending order of a column's known values; words by the rules of Polish.
     bool isBefore(std::size_t a, std::size_t b, QuoteColumn column) const;
@@ -33,6 +37,7 @@ private:
 
     std::vector<Instrument> m_instruments;
     std::vector<CellTexts> m_texts;
+    std::vector<std::optional<PriceSession>> m_sessions;
 };
 
 } // namespace Desk

@@ -6,7 +6,6 @@
 
 #include "DeskColors.h"
 #include "DeskShapes.h"
-#include "MouseLeaving.h"
 #include "ScopedSelection.h"
 #include "core/Commands.h"
 #include "core/PolishFormat.h"
@@ -233,20 +232,11 @@ void TopStrip::OnSize(UINT type, int cx, int cy) {
 }
 
 void TopStrip::OnMouseMove(UINT, CPoint point) {
-    if (m_hot == Item::None)
-        watchMouseLeaving(m_hWnd);
-    setHot(itemAt(point));
+    m_hot.moveTo(itemAt(point));
 }
 
 void TopStrip::OnMouseLeave() {
-    setHot(Item::None);
-}
-
-void TopStrip::setHot(Item item) {
-    if (m_hot == item)
-        return;
-    m_hot = item;
-    Invalidate(FALSE);
+    m_hot.leave();
 }
 
 void TopStrip::OnLButtonDown(UINT, CPoint point) {

@@ -8,6 +8,7 @@
 
 #include "DeskFonts.h"
 #include "FindBox.h"
+#include "HotItem.h"
 #include "core/StripLayout.h"
 
 namespace Desk {
@@ -67,7 +68,6 @@ private:
     StripSizes sizes() const;
     Item itemAt(CPoint point) const;
     CRect itemRect(const StripSpan& span) const;
-    void setHot(Item item);
     void drawFindBox(CDC& dc);
     void drawFindButton(CDC& dc, const StripSpan& span, Item item, bool down);
     void drawFindCount(CDC& dc);
@@ -77,7 +77,7 @@ private:
     StripEvents& m_events;
     FindBox m_findBox;
     StripLayout m_layout;
-    Item m_hot = Item::None;
+    HotItem<Item> m_hot{*this, Item::None};
     std::array<bool, StripSwitchCount> m_switches{};
     std::optional<Found> m_found;
 };

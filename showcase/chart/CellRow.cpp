@@ -8,7 +8,6 @@
 #include "DeskColors.h"
 #include "DeskFonts.h"
 #include "DeskShapes.h"
-#include "MouseLeaving.h"
 
 namespace Desk {
 
@@ -105,20 +104,11 @@ void CellRow::OnSize(UINT type, int cx, int cy) {
 // Mouse and keys
 
 void CellRow::OnMouseMove(UINT, CPoint point) {
-    if (m_hot == None)
-        watchMouseLeaving(m_hWnd);
-    setHot(cellAt(point));
+    m_hot.moveTo(cellAt(point));
 }
 
 void CellRow::OnMouseLeave() {
-    setHot(None);
-}
-
-void CellRow::setHot(int cell) {
-    if (m_hot == cell)
-        return;
-    m_hot = cell;
-    Invalidate(FALSE);
+    m_hot.leave();
 }
 
 void CellRow::OnLButtonDown(UINT, CPoint point) {

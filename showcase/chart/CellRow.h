@@ -4,6 +4,8 @@
 
 #include <afxwin.h>
 
+#include "HotItem.h"
+
 namespace Desk {
 
 /// A field of cells side by side of which one, or none, is chosen: by a press, or with the arrows, Home and End while
@@ -40,13 +42,12 @@ protected:
 
 private:
     int cellAt(CPoint point) const;
-    void setHot(int cell);
     void userChooses(int cell);
 
     DrawCell m_draw;
     int m_cells = 0;
     int m_chosen = None;
-    int m_hot = None;
+    HotItem<int> m_hot{*this, None};
 };
 
 } // namespace Desk

@@ -14,6 +14,10 @@ constexpr int Reach = 3;
 /// What a notch of the wheel leaves of what is seen.
 constexpr double ZoomOfNotch = 0.8;
 
+constexpr UINT_PTR FrameTimer = 1;
+/// Prices that tick make at most 25 pictures a second.
+constexpr UINT FramePause = 40;
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(ChartCanvas, VectorCanvas::VectorCanvasCtrl)
@@ -27,6 +31,7 @@ BEGIN_MESSAGE_MAP(ChartCanvas, VectorCanvas::VectorCanvasCtrl)
     ON_WM_CAPTURECHANGED()
     ON_WM_SETCURSOR()
     ON_WM_KEYDOWN()
+    ON_WM_TIMER()
 END_MESSAGE_MAP()
 
 ChartCanvas::ChartCanvas(ChartModel& model, DeskFonts& fonts)
@@ -58,6 +63,19 @@ void ChartCanvas::apply(const ChartChange& change) {
         onChanged(change);
 }
 
+void ChartCanvas::renewSoon() {
+    if (!m_awaitsFrame)
+        m_awaitsFrame = SetTimer(FrameTimer, FramePause) != 0;
+}
+
+void ChartCanvas::OnTimer(UINT_PTR timer) {
+    if (timer != FrameTimer)
+        return;
+    KillTimer(FrameTimer);
+    m_awaitsFrame = false;
+    apply({.picture = true});
+}
+
 void ChartCanvas::renewOverlay() {
     for (const CRect& area : m_overlayAreas)
         InvalidateRect(&area, FALSE);
@@ -76,6 +94,7 @@ void ChartCanvas::render() {
     CRect client;
     GetClientRect(&client);
     m_isStale = false;
+    m_painting.takeStyles(m_model);
     layOut(client.Size(), 0);
     // Prices close to each other have longer labels. A plot that is narrower for them has the same prices.
     if (m_frame.priceGrid.decimals > LeastPriceDecimals)

@@ -25,6 +25,8 @@ public:
     std::function<void(const ChartChange& change)> onChanged;
     /// Does what a change asks for, and tells of it.
     void apply(const ChartChange& change);
+    /// What is shown has changed without the user: the picture follows with the next frame, however often it does.
+    void renewSoon();
     /// For a turn of the wheel with Ctrl, at a point of the canvas.
     void zoomAt(int x, short delta);
 
@@ -45,6 +47,7 @@ protected:
     afx_msg void OnCaptureChanged(CWnd* window);
     afx_msg BOOL OnSetCursor(CWnd* window, UINT hitTest, UINT message);
     afx_msg void OnKeyDown(UINT key, UINT repeats, UINT flags);
+    afx_msg void OnTimer(UINT_PTR timer);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -61,6 +64,7 @@ private:
     ChartOverlay m_overlay;
     bool m_isStale = true;
     bool m_watchesLeaving = false;
+    bool m_awaitsFrame = false;
     std::vector<CRect> m_overlayAreas; ///< as they are on the screen
     CDC m_back;                        ///< where picture and overlay come together
     CBitmap m_backPicture;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -19,10 +18,13 @@ class ChartModel : private ChartLines {
 public:
     ChartModel(CandleSource source, ChartMemory memory);
 
-    /// Shows an instrument, or nothing with null; true if that is another one than before.
-    bool show(const Instrument* instrument);
+    /// Shows an instrument, or nothing with null; true if that is another one than before. `session` is that of its
+    /// price, null if it has not ticked yet.
+    bool show(const Instrument* instrument, const PriceSession* session = nullptr);
+    /// The price of the instrument that is shown has ticked; true if its last candle is another one now.
+    bool follow(const PriceSession& session);
     const CandleSource& source() const { return m_source; }
-    const Candles& candles() const { return *m_candles; }
+    const Candles& candles() const { return m_candles; }
     const std::vector<double>& average() const { return m_average; }
     /// The greatest price and volume of all candles, 0 without any.
     double greatestPrice() const { return m_greatestPrice; }
@@ -71,7 +73,8 @@ private:
     std::wstring m_symbol;
     std::wstring m_name;
     std::wstring m_missing;
-    const Candles* m_candles;
+    Candles m_candles;
+    std::optional<Candle> m_lastOfSource; ///< the last candle without what has ticked since
     std::vector<double> m_average;
     double m_greatestPrice = 0;
     double m_greatestVolume = 0;

@@ -24,10 +24,13 @@ constexpr int ToolPadding = 9;
 
 } // namespace
 
-ChartMeasures ChartPainting::measure(const ChartModel& model, CSize canvas, int priceDecimals) {
+void ChartPainting::takeStyles(const ChartModel& model) {
     m_contexts.update(model);
     m_labelHeight =
         TextSizeCalculator::GetTextSize(std::pair<HDC, HFONT>(nullptr, fontOf(m_contexts.labels)), L"0", false).cy;
+}
+
+ChartMeasures ChartPainting::measure(const ChartModel& model, CSize canvas, int priceDecimals) {
     const int widest =
         std::max(textWidth(singlePriceText(model.greatestPrice(), priceDecimals) + L"0", m_contexts.labels),
                  textWidth(formatLargeSum(model.greatestVolume()), m_contexts.labels));

@@ -14,6 +14,8 @@ namespace Desk {
 /// picture.
 class ChartPainting {
 public:
+    /// The styles of the next picture; once before it is measured.
+    void takeStyles(const ChartModel& model);
     /// What the parts of a canvas of this size need, where the grid of prices has so many decimals.
     ChartMeasures measure(const ChartModel& model, CSize canvas, int priceDecimals);
     /// Between the painter's `InitRender` and `EndRender`.

@@ -65,9 +65,14 @@ int ChartPane::OnCreate(LPCREATESTRUCT create) {
 
 // What is shown
 
-void ChartPane::show(const Instrument* instrument) {
-    if (m_model.show(instrument))
+void ChartPane::show(const Instrument* instrument, const PriceSession* session) {
+    if (m_model.show(instrument, session))
         m_canvas.apply({.picture = true, .range = true, .selection = true});
+}
+
+void ChartPane::follow(const PriceSession& session) {
+    if (m_model.follow(session))
+        m_canvas.renewSoon();
 }
 
 void ChartPane::setTheme(DeskTheme theme) {

@@ -29,8 +29,9 @@ public:
 
     const ChartModel& model() const { return m_model; }
     ChartCanvas& canvas() { return m_canvas; }
-    /// Shows the candles of an instrument, or nothing with null.
-    void show(const Instrument* instrument);
+    /// As the model does.
+    void show(const Instrument* instrument, const PriceSession* session = nullptr);
+    void follow(const PriceSession& session);
     void setTheme(DeskTheme theme);
     /// A wheel turned over the pane or while the focus is in it.
     void turnWheel(const MSG& message);

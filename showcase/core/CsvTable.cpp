@@ -76,6 +76,8 @@ double CsvTable::parseNumber(std::size_t column, std::string_view advice) const 
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (error != std::errc() || end != digits.data() + digits.size() || !std::isfinite(value))
         refuse(column, quoted(column) + " nie jest liczbą", advice);
+    if (std::fabs(value) > GreatestNumber)
+        refuse(column, "liczba " + quoted(column) + " jest poza zakresem", "podaj liczbę od -1e18 do 1e18");
     return value;
 }
 

@@ -28,6 +28,8 @@ public:
 
     /// A cell of the current row, in UTF-8.
     std::string_view text(std::size_t column) const;
+    /// No number is farther from 0: what is greater is a mistake, and would have no room anywhere.
+    static constexpr double GreatestNumber = 1e18;
     /// A cell that may be empty.
     std::optional<double> number(std::size_t column) const;
     /// A cell that must hold a number.

@@ -47,6 +47,8 @@ INSTANTIATE_TEST_SUITE_P(
                     FileCase{"missingField", Header + "A,b,c,1,2,3,4,5,6\n", ", wiersz 2, kolumna 10: pól jest 9"},
                     FileCase{"malformedNumber", Header + "A,b,c,1,2,3,4,5,6,7\nB,b,c,1,x,3,4,5,6,7\n",
                              ", wiersz 3, kolumna 5: „x” nie jest liczbą"},
+                    FileCase{"numberOutOfRange", Header + "A,b,c,1e300,2,3,4,5,6,7\n",
+                             ", wiersz 2, kolumna 4: liczba „1e300” jest poza zakresem"},
                     FileCase{"nulByte", Header + std::string("A,b\0", 4), ", wiersz 2, kolumna 2: bajt zerowy"},
                     FileCase{"symbolTwice", Header + "A,b,c,1,2,3,4,5,6,7\nA,b,c,1,2,3,4,5,6,7\n",
                              ", wiersz 3, kolumna 1: symbol „A” jest już w wierszu 2"},

@@ -1,6 +1,7 @@
 #include <chrono>
 
 #include "DeskProcess.h"
+#include "chart/ChartPane.h"
 #include "support/Pump.h"
 #include "support/RealInput.h"
 
@@ -8,6 +9,7 @@ using LiveQuotes = DeskOnScreen;
 
 namespace {
 
+constexpr int ChartId = 5;
 constexpr std::size_t Sector = 2;
 constexpr std::size_t Price = 3;
 
@@ -38,11 +40,27 @@ TEST_F(LiveQuotes, TickedPricesFlashAndNothingElseOfTheirRowChanges) {
     EXPECT_EQ(pixelsOf(body()).part(others), before.part(others));
 }
 
+TEST_F(LiveQuotes, TheChartFollowsThePriceOfTheRowWithTheCaret) {
+    start({L"--ticks", L"400"});
+    const HWND canvas = ::GetDlgItem(::GetDlgItem(desk(), ChartId), Desk::ChartPane::CanvasId);
+    support::moveMouse(onScreen(statusLine(), scaled(300), 4));
+    const support::Pixels first = pixelsOf(canvas);
+    EXPECT_TRUE(eventually([&] {
+        const auto changed = support::difference(pixelsOf(canvas), first);
+        return changed && changed->bounds.right > first.width() * 9 / 10;
+    }));
+    support::Pixels before = pixelsOf(canvas);
+    for (int change = 0; change < 3; ++change) {
+        EXPECT_TRUE(eventually([&] { return pixelsOf(canvas) != before; })) << change;
+        before = pixelsOf(canvas);
+    }
+}
+
 TEST_F(LiveQuotes, WithoutTicksNothingChanges) {
     start();
-    const support::Pixels before = pixelsOf(body());
+    const support::Pixels before = pixelsOf(desk());
     support::pumpFor(std::chrono::seconds(1));
-    EXPECT_EQ(pixelsOf(body()), before);
+    EXPECT_EQ(pixelsOf(desk()), before);
 }
 
 TEST_F(LiveQuotes, AClickOnRunningRowsSelectsTheRowUnderIt) {

@@ -94,18 +94,6 @@ TEST_P(CandlesFault, IsToldWithPlaceFaultAndAdvice) {
 INSTANTIATE_TEST_SUITE_P(
     Candles, CandlesFault,
     testing::Values(
-        FaultCase{"emptyFile", "",
-                  "c.csv, wiersz 1, kolumna 1: plik jest pusty; zacznij go od nagłówka z nazwami kolumn"},
-        FaultCase{"missingColumn", "Symbol,Date,Open,High,Low,Close\n",
-                  "c.csv, wiersz 1, kolumna 7: brak kolumny „Volume”; dopisz ją do nagłówka"},
-        FaultCase{"columnTwice", "Symbol,Date,Open,High,Low,Close,Volume,Date\n",
-                  "c.csv, wiersz 1, kolumna 8: kolumna „Date” występuje drugi raz; zostaw jedną kolumnę o tej nazwie"},
-        FaultCase{"tooFewFields", Header + "A,2015-01-02,2,4\n",
-                  "c.csv, wiersz 2, kolumna 5: pól jest 4, a w nagłówku 7; uzupełnij wiersz albo ujmij pola z "
-                  "przecinkami w cudzysłów"},
-        FaultCase{"tooManyFields", Header + "A,2015-01-02,2,4,1,3,100,5\n",
-                  "c.csv, wiersz 2, kolumna 8: pól jest 8, a w nagłówku 7; uzupełnij wiersz albo ujmij pola z "
-                  "przecinkami w cudzysłów"},
         FaultCase{"noSymbol", Header + ",2015-01-02,2,4,1,3,100\n",
                   "c.csv, wiersz 2, kolumna 1: brak symbolu; wpisz symbol instrumentu"},
         FaultCase{"symbolInOtherEncoding", Header + "\xB3,2015-01-02,2,4,1,3,100\n",
@@ -126,14 +114,12 @@ INSTANTIATE_TEST_SUITE_P(
         FaultCase{"dayBeforeThePreviousOne", Header + "A,2015-01-05,2,4,1,3,100\nA,2015-01-02,2,4,1,3,100\n",
                   "c.csv, wiersz 3, kolumna 2: dzień „2015-01-02” jest wcześniejszy niż poprzedni tego symbolu; ułóż "
                   "wiersze symbolu od najstarszego dnia"},
-        FaultCase{"malformedPrice", Header + "A,2015-01-02,2x,4,1,3,100\n",
-                  "c.csv, wiersz 2, kolumna 3: „2x” nie jest liczbą; wpisz liczbę z kropką dziesiętną"},
         FaultCase{"noPrice", Header + "A,2015-01-02,2,4,1,,100\n",
                   "c.csv, wiersz 2, kolumna 6: brak liczby; wpisz liczbę z kropką dziesiętną"},
-        FaultCase{"notANumber", Header + "A,2015-01-02,2,nan,1,3,100\n",
-                  "c.csv, wiersz 2, kolumna 4: „nan” nie jest liczbą; wpisz liczbę z kropką dziesiętną"},
-        FaultCase{"infinity", Header + "A,2015-01-02,2,4,1,3,inf\n",
-                  "c.csv, wiersz 2, kolumna 7: „inf” nie jest liczbą; wpisz liczbę z kropką dziesiętną"},
+        FaultCase{"priceOutOfRange", Header + "A,2015-01-02,2,1e300,1,3,100\n",
+                  "c.csv, wiersz 2, kolumna 4: liczba „1e300” jest poza zakresem; podaj liczbę od -1e18 do 1e18"},
+        FaultCase{"noVolume", Header + "A,2015-01-02,2,4,1,3,\n",
+                  "c.csv, wiersz 2, kolumna 7: brak liczby; wpisz liczbę z kropką dziesiętną"},
         FaultCase{"priceOfNothing", Header + "A,2015-01-02,2,4,0,3,100\n",
                   "c.csv, wiersz 2, kolumna 5: cena „0” nie jest większa od zera; popraw cenę"},
         FaultCase{"highBelowOpen", Header + "A,2015-01-02,5,4,1,3,100\n",
@@ -147,6 +133,10 @@ INSTANTIATE_TEST_SUITE_P(
         FaultCase{"negativeVolume", Header + "A,2015-01-02,2,4,1,3,-1\n",
                   "c.csv, wiersz 2, kolumna 7: wolumen „-1” jest ujemny; popraw liczbę sztuk"}),
     nameOfFault);
+
+TEST(Candles, NeedEachOfTheirColumns) {
+    expectEachColumnIsNeeded([](const std::string& bytes) { read(bytes); }, Header, "c.csv");
+}
 
 TEST(Candles, AFileThatIsNotThereIsTold) {
     expectToldOfNoFile([](const std::filesystem::path& file) { readCandles(file); });
@@ -163,6 +153,26 @@ TEST(Candles, OfAFileAreReadAsTheyWereWritten) {
     if (std::filesystem::exists(real)) {
         EXPECT_EQ(countsOf(readCandles(real)), "AAPL 753 COKE 754 GOOGL 754 TSLA 754 YHOO 619 ");
     }
+}
+
+TEST(Candles, CarriedOnMakeTheMovesOfTheirPriceFromTheirOwnClose) {
+    const Candle before{LastDay, 98, 104, 97, 100, 5000};
+    PriceSession session(100);
+    EXPECT_EQ(carriedOn(before, session), before);
+    session.take(103);
+    EXPECT_EQ(carriedOn(before, session), (Candle{LastDay, 98, 104, 97, 103, 5000}));
+    session.take(96.5);
+    session.take(105.25);
+    session.take(99);
+    EXPECT_EQ(carriedOn(before, session), (Candle{LastDay, 98, 105.25, 96.5, 99, 5000}));
+
+    PriceSession elsewhere(400);
+    elsewhere.take(420);
+    elsewhere.take(380);
+    EXPECT_EQ(carriedOn(before, elsewhere), (Candle{LastDay, 98, 105, 95, 95, 5000})) << "the price is another one";
+    PriceSession worthless(0);
+    worthless.take(0.01);
+    EXPECT_EQ(carriedOn(before, worthless), before);
 }
 
 TEST(SampleCandles, AreTheSameForTheSameArgumentsAndOthersForAnotherSymbol) {

@@ -50,13 +50,6 @@ std::string textOf(const std::optional<ClippedLine>& line) {
     return text(line->from.x) + "," + text(line->from.y) + " " + text(line->to.x) + "," + text(line->to.y);
 }
 
-Instrument listed(const std::string& symbol, std::optional<double> price) {
-    Instrument instrument;
-    instrument.symbol = symbol;
-    instrument.price = price;
-    return instrument;
-}
-
 } // namespace
 
 TEST(ChartFrame, MarksTheFirstColumnWithTheGreatestHighAndThatWithTheGreatestVolume) {
@@ -197,6 +190,8 @@ TEST(ChartTexts, TellPricesMoreFinelyThanAGridThatNeedsMoreThanTwoDecimals) {
     EXPECT_EQ(singlePriceText(1234.5, 2), L"1\u00A0234,50");
     EXPECT_EQ(singlePriceText(0.000142, 5), L"0,000142");
     EXPECT_EQ(singlePriceText(0.000142, 0), L"0,00014");
+    EXPECT_EQ(singlePriceText(1e-300, 302), L"0,000000000000000") << "no more than there is room for";
+    EXPECT_EQ(priceText(1e-300, 302), L"0,000000000000000");
 }
 
 TEST(ChartTexts, TellHowARangeChanged) {
@@ -216,19 +211,19 @@ TEST(ChartTexts, SayWhichSymbolsTheFileHas) {
 
 TEST(CandleSources, InventTheCandlesOfEachInstrumentUpToItsPrice) {
     CandleSource source(std::nullopt);
-    const Candles first = source.candlesOf(listed("A", 55.5));
+    const Candles first = source.candlesOf("A", 55.5);
     EXPECT_EQ(first.size(), 1500u);
     EXPECT_DOUBLE_EQ(first.back().close, 55.5);
-    EXPECT_NE(source.candlesOf(listed("B", 55.5)), first);
-    EXPECT_EQ(source.candlesOf(listed("A", 55.5)), first);
-    EXPECT_EQ(source.candlesOf(listed("unknown price", {})).size(), 1500u);
-    EXPECT_TRUE(source.knows(listed("anything", {})));
+    EXPECT_NE(source.candlesOf("B", 55.5), first);
+    EXPECT_EQ(source.candlesOf("A", 55.5), first);
+    EXPECT_EQ(source.candlesOf("unknown price", {}).size(), 1500u);
+    EXPECT_TRUE(source.knows("anything"));
 }
 
 TEST(CandleSources, OfAFileKnowItsSymbolsOnly) {
     CandleSource source(CandleBook{{"A", risingCandles(3)}, {"B", risingCandles(4)}});
-    EXPECT_EQ(source.candlesOf(listed("B", {})).size(), 4u);
-    EXPECT_TRUE(source.candlesOf(listed("C", {})).empty());
-    EXPECT_FALSE(source.knows(listed("C", {})));
+    EXPECT_EQ(source.candlesOf("B", {}).size(), 4u);
+    EXPECT_TRUE(source.candlesOf("C", {}).empty());
+    EXPECT_FALSE(source.knows("C"));
     EXPECT_EQ(source.symbols(), (std::vector<std::string>{"A", "B"}));
 }

@@ -238,6 +238,17 @@ TEST_F(Gestures, AnEndOfALineFollowsTheMouseAndTheOtherStays) {
     EXPECT_EQ(describe(), "50-150 | selected line 0 | 100,200 400,100");
 }
 
+TEST_F(Gestures, AnEndThatIsDraggedIsUnderTheMouseWhenThePricesHaveMovedOnMeanwhile) {
+    drawLine(100, 200, 300, 50);
+    press(302, 52, lineObject(0));
+    m_candles[100].high = 180;
+    layOut();
+    move(402, 150, lineObject(0));
+    const ChartPixel end = pixelOf(m_lines.line(0).to, m_frame.time, m_frame.prices);
+    EXPECT_NEAR(end.x, 400, 1e-6);
+    EXPECT_NEAR(end.y, 150, 2) << "as near as it was taken";
+}
+
 TEST_F(Gestures, ALineIsDraggedAsAWholeByItsMiddle) {
     drawLine(100, 200, 300, 50);
     drag(200, 125, 250, 145, lineObject(0));

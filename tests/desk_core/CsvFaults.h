@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,22 @@ std::string messageOf(Read read, const Input& input) {
         return "no error";
     } catch (const Desk::InputError& error) {
         return error.what();
+    }
+}
+
+/// A header that lacks one of the columns is refused, whichever it is.
+template <typename Read>
+void expectEachColumnIsNeeded(Read read, const std::string& header, const std::string& file) {
+    std::vector<std::string> titles;
+    std::istringstream line(header.substr(0, header.find('\n')));
+    for (std::string title; std::getline(line, title, ',');)
+        titles.push_back(title);
+    for (const std::string& missing : titles) {
+        std::string rest;
+        for (const std::string& title : titles)
+            rest += title == missing ? "" : title + ',';
+        EXPECT_EQ(messageOf(read, rest + "Note\n"), file + ", wiersz 1, kolumna " + std::to_string(titles.size() + 1) +
+                                                        ": brak kolumny „" + missing + "”; dopisz ją do nagłówka");
     }
 }
 

@@ -32,6 +32,21 @@ TEST(MovingAverage, IsNotThereForAShorterSeriesOrNoPeriod) {
     EXPECT_TRUE(movingAverage(withCloses({1, 2}), 0).empty());
 }
 
+TEST(MovingAverage, IsRenewedAtItsEndAlone) {
+    Candles candles = withCloses({1, 2, 6, 4, 5, 9, 7});
+    std::vector<double> averages = movingAverage(candles, 3);
+    candles.back().close = 1;
+    renewLastAverage(averages, candles, 3);
+    EXPECT_EQ(averages, movingAverage(candles, 3));
+    averages = movingAverage(candles, 7);
+    candles.back().close = 8;
+    renewLastAverage(averages, candles, 7);
+    EXPECT_EQ(averages, movingAverage(candles, 7));
+    std::vector<double> none;
+    renewLastAverage(none, candles, 8);
+    EXPECT_TRUE(none.empty());
+}
+
 TEST(MovingAverage, AgreesWithLongSumsOverAHundredThousandCandles) {
     SeededRandom random(23);
     std::vector<double> closes(100'000);

@@ -26,10 +26,10 @@ std::wstring labels(const PriceGrid& grid) {
     return text;
 }
 
-/// Whether the distance of neighbours is 1, 2 or 5 times a power of ten.
+/// Whether the distance of neighbours is 1, 2, 2.5 or 5 times a power of ten.
 bool isRound(double step) {
     const double digit = step / std::pow(10.0, std::floor(std::log10(step) + 1e-6));
-    constexpr std::array Digits{1.0, 2.0, 5.0};
+    constexpr std::array Digits{1.0, 2.0, 2.5, 5.0};
     return std::any_of(Digits.begin(), Digits.end(), [digit](double round) { return std::fabs(digit - round) < 1e-4; });
 }
 
@@ -49,10 +49,10 @@ void expectGoodGrid(const PriceScale& scale, int leastDistance) {
         }
     }
     ASSERT_EQ(different.size(), grid.values.size()) << "neighbours read alike";
-    // A step of 1, 2 or 5 is at most 2.5 times the least distance, so that a high plot always has lines.
+    // The next step is at most twice as great, so that a high plot always has lines.
     const int height = scale.bottom() - scale.top();
     if (height >= 5 * leastDistance && height / leastDistance < 400) {
-        ASSERT_GE(grid.values.size(), static_cast<std::size_t>(height / (2.5 * leastDistance)) - 1);
+        ASSERT_GE(grid.values.size(), static_cast<std::size_t>(height / (2.0 * leastDistance)) - 1);
     }
 }
 
@@ -110,9 +110,13 @@ TEST(PriceScale, TurnsSwappedEndsRound) {
 
 TEST(PriceGrid, TakesTheFinestRoundStepThatTheDistanceAllows) {
     EXPECT_EQ(labels(priceGrid(PriceScale(103.0, 121.0, 0, 180), 20)), L"104|106|108|110|112|114|116|118|120|");
-    EXPECT_EQ(labels(priceGrid(PriceScale(103.0, 121.0, 0, 180), 21)), L"105|110|115|120|");
+    EXPECT_EQ(labels(priceGrid(PriceScale(103.0, 121.0, 0, 180), 21)), L"105,0|107,5|110,0|112,5|115,0|117,5|120,0|");
+    EXPECT_EQ(labels(priceGrid(PriceScale(103.0, 121.0, 0, 180), 26)), L"105|110|115|120|");
     EXPECT_EQ(labels(priceGrid(PriceScale(103.0, 121.0, 0, 180), 51)), L"110|120|");
     EXPECT_EQ(labels(priceGrid(PriceScale(0.0, 1.0, 0, 100), 20)), L"0,0|0,2|0,4|0,6|0,8|1,0|");
+    EXPECT_EQ(labels(priceGrid(PriceScale(0.0, 1.0, 0, 100), 21)), L"0,00|0,25|0,50|0,75|1,00|");
+    EXPECT_EQ(labels(priceGrid(PriceScale(930.0, 1080.0, 0, 300), 50)),
+              L"950|975|1\u00A0000|1\u00A0025|1\u00A0050|1\u00A0075|");
     EXPECT_EQ(labels(priceGrid(PriceScale(-0.03, 0.03, 0, 300), 50)), L"-0,03|-0,02|-0,01|0,00|0,01|0,02|0,03|");
     EXPECT_EQ(labels(priceGrid(PriceScale(0.0, 25'000'000.0, 0, 100), 30)),
               L"0|10\u00A0000\u00A0000|20\u00A0000\u00A0000|");

@@ -16,6 +16,10 @@ const TimeScale Time({0.1, 0.2}, 1000, 0, 1000);
 const PriceScale Prices(100.0, 500.0, 0, 400);
 const TrendLine Line{{110.0, 200.0}, {150.0, 300.0}};
 
+TrendLine draggedByPixels(const TrendLine& line, LineGrip grip, const ChartPixel& start, const ChartPixel& now) {
+    return dragged(line, grip, pointAt(start, Time, Prices), pointAt(now, Time, Prices));
+}
+
 } // namespace
 
 TEST(TrendLine, LiesWhereItsPlacesAndPricesAre) {
@@ -25,17 +29,14 @@ TEST(TrendLine, LiesWhereItsPlacesAndPricesAre) {
 }
 
 TEST(TrendLine, IsDraggedByAnEndOrWhole) {
-    EXPECT_EQ(dragged(Line, LineGrip::From, {100, 300}, {120, 290}, Time, Prices),
-              (TrendLine{{112.0, 210.0}, Line.to}));
-    EXPECT_EQ(dragged(Line, LineGrip::To, {500, 200}, {480, 210}, Time, Prices),
-              (TrendLine{Line.from, {148.0, 290.0}}));
-    EXPECT_EQ(dragged(Line, LineGrip::All, {300, 250}, {310, 270}, Time, Prices),
+    EXPECT_EQ(draggedByPixels(Line, LineGrip::From, {100, 300}, {120, 290}), (TrendLine{{112.0, 210.0}, Line.to}));
+    EXPECT_EQ(draggedByPixels(Line, LineGrip::To, {500, 200}, {480, 210}), (TrendLine{Line.from, {148.0, 290.0}}));
+    EXPECT_EQ(draggedByPixels(Line, LineGrip::All, {300, 250}, {310, 270}),
               (TrendLine{{111.0, 180.0}, {151.0, 280.0}}));
 }
 
 TEST(TrendLine, IsDraggedByTheMouseWayThoughItWasTakenBesideTheEnd) {
-    EXPECT_EQ(dragged(Line, LineGrip::From, {103, 304}, {123, 294}, Time, Prices),
-              (TrendLine{{112.0, 210.0}, Line.to}));
+    EXPECT_EQ(draggedByPixels(Line, LineGrip::From, {103, 304}, {123, 294}), (TrendLine{{112.0, 210.0}, Line.to}));
 }
 
 TEST(TrendLine, ComesBackExactlyWhenTheMouseDoes) {
@@ -46,8 +47,8 @@ TEST(TrendLine, ComesBackExactlyWhenTheMouseDoes) {
         const ChartPixel start{random.between(0, 1000), random.between(0, 400)};
         const ChartPixel away{random.between(-500, 2000), random.between(-500, 900)};
         for (const LineGrip grip : {LineGrip::From, LineGrip::To, LineGrip::All}) {
-            ASSERT_EQ(dragged(line, grip, start, start, Time, Prices), line);
-            const TrendLine moved = dragged(line, grip, start, away, Time, Prices);
+            ASSERT_EQ(draggedByPixels(line, grip, start, start), line);
+            const TrendLine moved = draggedByPixels(line, grip, start, away);
             const ChartPixel end = pixelOf(grip == LineGrip::To ? line.to : line.from, Time, Prices);
             const ChartPixel now = pixelOf(grip == LineGrip::To ? moved.to : moved.from, Time, Prices);
             ASSERT_NEAR(now.x - end.x, away.x - start.x, 1e-7);

@@ -10,22 +10,17 @@ constexpr std::size_t InventedCandles = 1500;
 /// Of an instrument whose price is not known.
 constexpr double InventedPrice = 100;
 
-const Candles NoCandles;
-
 } // namespace
 
-const Candles& CandleSource::candlesOf(const Instrument& instrument) {
-    if (m_file) {
-        const auto found = m_file->find(instrument.symbol);
-        return found != m_file->end() ? found->second : NoCandles;
-    }
-    m_invented =
-        sampleCandles(instrument.symbol, instrument.price.value_or(InventedPrice), LastInventedDay, InventedCandles);
-    return m_invented;
+Candles CandleSource::candlesOf(const std::string& symbol, std::optional<double> price) const {
+    if (!m_file)
+        return sampleCandles(symbol, price.value_or(InventedPrice), LastInventedDay, InventedCandles);
+    const auto found = m_file->find(symbol);
+    return found != m_file->end() ? found->second : Candles();
 }
 
-bool CandleSource::knows(const Instrument& instrument) const {
-    return !m_file || m_file->contains(instrument.symbol);
+bool CandleSource::knows(const std::string& symbol) const {
+    return !m_file || m_file->contains(symbol);
 }
 
 std::vector<std::string> CandleSource::symbols() const {

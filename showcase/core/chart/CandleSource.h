@@ -5,7 +5,6 @@
 #include <utility>
 #include <vector>
 
-#include "core/Instruments.h"
 #include "core/chart/Candles.h"
 
 namespace Desk {
@@ -15,16 +14,15 @@ class CandleSource {
 public:
     explicit CandleSource(std::optional<CandleBook> file) : m_file(std::move(file)) {}
 
-    /// Empty if the file has none for it. They stay until the next call.
-    const Candles& candlesOf(const Instrument& instrument);
+    /// Empty if the file has none for it. Invented ones end at `price`.
+    Candles candlesOf(const std::string& symbol, std::optional<double> price) const;
     /// Whether it has any, without looking closer.
-    bool knows(const Instrument& instrument) const;
+    bool knows(const std::string& symbol) const;
     /// The symbols of the file, in order; none without a file.
     std::vector<std::string> symbols() const;
 
 private:
     std::optional<CandleBook> m_file;
-    Candles m_invented;
 };
 
 } // namespace Desk

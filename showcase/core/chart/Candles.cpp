@@ -103,6 +103,18 @@ private:
 
 } // namespace
 
+Candle carriedOn(const Candle& candle, const PriceSession& session) {
+    if (!(session.first > 0.0))
+        return candle;
+    // A file may end at another price than that of the table.
+    const double share = candle.close / session.first;
+    Candle carried = candle;
+    carried.close = session.last * share;
+    carried.high = std::max(candle.high, session.highest * share);
+    carried.low = std::min(candle.low, session.lowest * share);
+    return carried;
+}
+
 CandleBook readCandles(std::istream& input, const std::string& fileName) {
     CsvTable table(input, fileName);
     const CandleParser parser(table);

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "core/InputError.h"
+#include "core/PriceSession.h"
 
 namespace Desk {
 
@@ -26,6 +27,10 @@ struct Candle {
     bool rises() const { return close >= open; }
     bool operator==(const Candle&) const = default;
 };
+
+/// The candle of a day that goes on: it makes the moves of the price, from its own close. Where the series ends at the
+/// price that the session began with, it closes at the last one.
+Candle carriedOn(const Candle& candle, const PriceSession& session);
 
 /// Oldest first, one a day at most.
 using Candles = std::vector<Candle>;

@@ -80,7 +80,7 @@ ChartChange ChartGestures::pressObject(const ChartMouse& mouse, const ChartFrame
     if (over.kind == ChartObject::Kind::Line) {
         const TrendLine& line = m_lines.line(over.index);
         const LineGrip grip = gripAt(line, pixelAt(mouse.at), GripReach, frame.time, frame.prices);
-        m_drag = Reshaping{over.index, grip, line, pixelAt(mouse.at)};
+        m_drag = Reshaping{over.index, grip, line, pointAt(pixelAt(mouse.at), frame.time, frame.prices)};
     } else if (frame.inPlots(mouse.at.x, mouse.at.y)) {
         m_drag = Panning{mouse.at.x, frame.time.candleWidth(), m_state.range};
     }
@@ -92,7 +92,7 @@ ChartChange ChartGestures::beginLine(const ChartMouse& mouse, const ChartFrame& 
     const TrendLine line{point, point};
     m_lines.addLine(line);
     const std::size_t index = m_lines.lineCount() - 1;
-    m_drag = DrawingLine{{index, LineGrip::To, line, pixelAt(mouse.at)}, mouse.at};
+    m_drag = DrawingLine{{index, LineGrip::To, line, point}, mouse.at, mouse.at};
     ChartChange change = Picture;
     change |= select(lineObject(index));
     return change;
@@ -148,8 +148,8 @@ ChartChange ChartGestures::follow(Selecting& drag, const ChartMouse& mouse, cons
 }
 
 ChartChange ChartGestures::follow(Reshaping& drag, const ChartMouse& mouse, const ChartFrame& frame) {
-    m_lines.setLine(drag.line,
-                    dragged(drag.before, drag.grip, drag.start, pixelAt(mouse.at), frame.time, frame.prices));
+    const ChartPoint now = pointAt(pixelAt(mouse.at), frame.time, frame.prices);
+    m_lines.setLine(drag.line, dragged(drag.before, drag.grip, drag.start, now));
     return Picture;
 }
 
@@ -161,8 +161,8 @@ ChartChange ChartGestures::follow(DrawingLine& drag, const ChartMouse& mouse, co
 ChartChange ChartGestures::release() {
     ChartChange change;
     if (const auto* drawn = std::get_if<DrawingLine>(&m_drag)) {
-        const int width = std::abs(drawn->last.x - static_cast<int>(drawn->end.start.x));
-        const int height = std::abs(drawn->last.y - static_cast<int>(drawn->end.start.y));
+        const int width = std::abs(drawn->last.x - drawn->first.x);
+        const int height = std::abs(drawn->last.y - drawn->first.y);
         m_state.drawsLine = false;
         change = Picture;
         if (std::max(width, height) < LeastLine)

@@ -71,10 +71,11 @@ private:
         std::size_t line;
         LineGrip grip;
         TrendLine before;
-        ChartPixel start;
+        ChartPoint start;
     };
     struct DrawingLine {
         Reshaping end;
+        ChartPosition first;
         ChartPosition last;
     };
 

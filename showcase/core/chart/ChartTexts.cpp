@@ -13,11 +13,11 @@ constexpr std::size_t MostNamedSymbols = 12;
 } // namespace
 
 std::wstring priceText(double price, int decimals) {
-    return formatNumber(price, std::max(decimals, LeastPriceDecimals));
+    return formatNumber(price, std::clamp(decimals, LeastPriceDecimals, MostPriceDecimals));
 }
 
 std::wstring singlePriceText(double price, int gridDecimals) {
-    return gridDecimals > LeastPriceDecimals ? formatNumber(price, gridDecimals + 1) : formatFigure(price);
+    return gridDecimals > LeastPriceDecimals ? priceText(price, gridDecimals + 1) : formatFigure(price);
 }
 
 std::array<LegendValue, LegendValueCount> legendOf(const Candle& candle, std::optional<double> average,

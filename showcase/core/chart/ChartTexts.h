@@ -21,7 +21,9 @@ std::array<LegendValue, LegendValueCount> legendOf(const Candle& candle, std::op
                                                    int gridDecimals);
 
 inline constexpr int LeastPriceDecimals = 2;
-/// "1 234,50": as many decimals as its grid has, but at least those.
+/// With more there would be no room beside a label.
+inline constexpr int MostPriceDecimals = 15;
+/// "1 234,50": as many decimals as its grid has, but at least and at most those.
 std::wstring priceText(double price, int decimals);
 /// A price between the lines of such a grid: told more finely than they are, where they need more than two decimals.
 std::wstring singlePriceText(double price, int gridDecimals);

@@ -27,4 +27,13 @@ std::vector<double> movingAverage(const Candles& candles, std::size_t period) {
     return averages;
 }
 
+void renewLastAverage(std::vector<double>& averages, const Candles& candles, std::size_t period) {
+    if (averages.empty())
+        return;
+    double sum = 0.0;
+    for (auto candle = candles.end() - static_cast<std::ptrdiff_t>(period); candle != candles.end(); ++candle)
+        sum += candle->close;
+    averages.back() = sum / static_cast<double>(period);
+}
+
 } // namespace Desk

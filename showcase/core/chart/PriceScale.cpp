@@ -13,6 +13,8 @@ constexpr double GreatestValue = 1e300;
 constexpr double LeastShare = 1e-9;
 constexpr double LeastSpan = 1e-290;
 constexpr double MostGridLines = 1000.0;
+/// The only digit of a step that has a decimal of its own.
+constexpr double HalfOfFive = 2.5;
 
 double sane(double value, double otherwise) {
     return std::isnan(value) ? otherwise : std::clamp(value, -GreatestValue, GreatestValue);
@@ -24,7 +26,7 @@ double scaledByTen(double multiplier, int exponent) {
 }
 
 struct GridStep {
-    double digit; ///< 1, 2 or 5
+    double digit; ///< 1, 2, 2.5 or 5
     int exponent; ///< of ten
 };
 
@@ -33,7 +35,7 @@ GridStep stepNotBelow(double least) {
     constexpr double Rounding = 1.0 - 1e-9;
     int exponent = static_cast<int>(std::floor(std::log10(least)));
     for (;; ++exponent)
-        for (const double digit : {1.0, 2.0, 5.0})
+        for (const double digit : {1.0, 2.0, HalfOfFive, 5.0})
             if (scaledByTen(digit, exponent) >= least * Rounding)
                 return {digit, exponent};
 }
@@ -63,7 +65,7 @@ PriceGrid priceGrid(const PriceScale& scale, int leastDistance) {
     const GridStep step = stepNotBelow(least);
 
     PriceGrid grid;
-    grid.decimals = std::max(0, -step.exponent);
+    grid.decimals = std::max(0, (step.digit == HalfOfFive ? 1 : 0) - step.exponent);
     const double size = scaledByTen(step.digit, step.exponent);
     const double last = std::floor(scale.high() / size + 0.5);
     for (double multiple = std::ceil(scale.low() / size - 0.5); multiple <= last; ++multiple) {

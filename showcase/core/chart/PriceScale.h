@@ -27,8 +27,8 @@ private:
     double m_pixels;
 };
 
-/// The values of grid lines: whole multiples of 1, 2 or 5 times a power of ten, at least `leastDistance` pixels from
-/// each other, all within the scale. At most a thousand.
+/// The values of grid lines: whole multiples of 1, 2, 2.5 or 5 times a power of ten, at least `leastDistance` pixels
+/// from each other, all within the scale. At most a thousand.
 struct PriceGrid {
     std::vector<double> values;
     int decimals = 0; ///< with which neighbours read differently

@@ -34,12 +34,9 @@ ChartPoint pointAt(const ChartPixel& pixel, const TimeScale& time, const PriceSc
     return {time.placeAt(pixel.x), prices.valueAt(pixel.y)};
 }
 
-TrendLine dragged(const TrendLine& line, LineGrip grip, const ChartPixel& start, const ChartPixel& now,
-                  const TimeScale& time, const PriceScale& prices) {
-    const ChartPoint before = pointAt(start, time, prices);
-    const ChartPoint after = pointAt(now, time, prices);
+TrendLine dragged(const TrendLine& line, LineGrip grip, const ChartPoint& start, const ChartPoint& now) {
     const auto movedBy = [&](const ChartPoint& point) {
-        return ChartPoint{point.place + (after.place - before.place), point.price + (after.price - before.price)};
+        return ChartPoint{point.place + (now.place - start.place), point.price + (now.price - start.price)};
     };
     return {grip == LineGrip::To ? line.from : movedBy(line.from), grip == LineGrip::From ? line.to : movedBy(line.to)};
 }

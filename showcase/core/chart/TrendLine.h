@@ -38,10 +38,9 @@ struct TrendLine {
 /// What of a line the mouse has taken: one end, or all of it.
 enum class LineGrip { From, To, All };
 
-/// The line as it is once what `grip` names has been dragged from pixel `start` to `now`; `line` is the one of the
-/// drag's start, so that rounding does not pile up.
-TrendLine dragged(const TrendLine& line, LineGrip grip, const ChartPixel& start, const ChartPixel& now,
-                  const TimeScale& time, const PriceScale& prices);
+/// The line as it is once what `grip` names has been dragged from `start` to `now`; `line` is the one of the drag's
+/// start, so that rounding does not pile up.
+TrendLine dragged(const TrendLine& line, LineGrip grip, const ChartPoint& start, const ChartPoint& now);
 
 /// The grip under the mouse on a line that is known to be there: an end if the mouse is within `reach` pixels of it
 /// (the nearer one), else all.
