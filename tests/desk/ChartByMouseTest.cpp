@@ -82,6 +82,15 @@ protected:
         ::GetGUIThreadInfo(::GetWindowThreadProcessId(desk(), nullptr), &info);
         return info.hwndFocus;
     }
+    /// The list that has dropped down; null if none has.
+    HWND droppedList() const {
+        HWND list = nullptr;
+        while ((list = ::FindWindowExW(nullptr, list, L"ComboLBox", nullptr)))
+            if (::IsWindowVisible(list) &&
+                ::GetWindowThreadProcessId(list, nullptr) == ::GetWindowThreadProcessId(desk(), nullptr))
+                return list;
+        return nullptr;
+    }
     void drawLine() const {
         takeTool();
         drag(at(0.2, 0.5), at(0.6, 0.3));
@@ -146,6 +155,40 @@ TEST_F(ChartByMouse, EscapeInADragPutsTheLineBack) {
     settle();
     support::releaseButton();
     EXPECT_TRUE(samePixels(chart(), drawn));
+}
+
+TEST_F(ChartByMouse, TheListOfTypefacesIsScrolledByItsBarInTheThemeAndAClickOnAFaceTakesIt) {
+    start({L"--theme", L"black"});
+    const SIZE size = sizeOf(canvas());
+    const HWND face = ::GetDlgItem(panel(), Desk::StylePanel::Face);
+    // The labels of prices are somewhere along the axis.
+    for (int y = size.cy / 4; y < size.cy * 3 / 4 && !::IsWindowVisible(face); y += scaled(5)) {
+        support::click(onScreen(canvas(), size.cx - scaled(20), y));
+        settle();
+    }
+    ASSERT_TRUE(::IsWindowVisible(face));
+    const support::Pixels labels = chart();
+    const support::Pixels before = pixelsOf(face);
+    support::click(onScreen(face, sizeOf(face).cx / 2, sizeOf(face).cy / 2));
+    ASSERT_TRUE(eventually([&] { return droppedList() != nullptr; }));
+    const HWND list = droppedList();
+    settle();
+    const support::Pixels top = pixelsOf(list);
+    EXPECT_LT(top.shareBrighterThan(0xA0), 0.12) << "letters only";
+
+    const int barX = sizeOf(list).cx - scaled(7);
+    EXPECT_TRUE(dragUntil(onScreen(list, barX, scaled(10)), onScreen(list, barX, sizeOf(list).cy - scaled(4)),
+                          [&] { return pixelsOf(list) != top; }));
+    settle();
+    EXPECT_EQ(droppedList(), list) << "it stays";
+    const support::Pixels bottom = pixelsOf(list);
+    EXPECT_TRUE(bottom.part({0, 0, barX - scaled(10), bottom.height()}) !=
+                top.part({0, 0, barX - scaled(10), top.height()}));
+    support::click(onScreen(list, scaled(30), sizeOf(list).cy - scaled(12)));
+    EXPECT_TRUE(eventually([&] { return droppedList() == nullptr; }));
+    settle();
+    EXPECT_TRUE(pixelsOf(face) != before);
+    EXPECT_TRUE(chart() != labels);
 }
 
 TEST_F(ChartByMouse, ShiftAndADragSelectARangeAndDeleteRemovesIt) {

@@ -49,7 +49,7 @@ TEST_F(ChartLive, TheLastCandleFollowsThePriceAndNoOtherDoes) {
 }
 
 TEST_F(ChartLive, AnInstrumentThatHasTickedUnseenIsShownWithItsLastPriceAndItsOldPast) {
-    ChartModel model(CandleSource(std::nullopt), ChartMemory());
+    ChartModel model{CandleSource(std::nullopt), ChartMemory()};
     Instrument a = named("A");
     a.price = 100.0;
     model.show(&a);

@@ -40,6 +40,7 @@ protected:
         ::GetComboBoxInfo(*m_combo, &info);
         return info.hwndList;
     }
+    int page() const { return listSize().cy / (m_fonts.lineHeight() + scaled(6)); }
     CSize listSize() const {
         CRect client;
         ::GetClientRect(list(), &client);
@@ -94,7 +95,7 @@ TEST_F(DropList, IsScrolledByItsThumb) {
     EXPECT_LE(first, scaled(2));
     mouse(WM_LBUTTONDOWN, barX(), first + 3);
     mouse(WM_MOUSEMOVE, barX(), listSize().cy / 2);
-    EXPECT_NEAR(top(), (Items - listSize().cy / (m_fonts.lineHeight() + scaled(6))) / 2.0, Items / 6.0);
+    EXPECT_NEAR(top(), (Items - page()) / 2, Items / 6);
     EXPECT_GT(thumbOnScreen().first, first + 10);
     // Beside the list too.
     mouse(WM_MOUSEMOVE, -50, listSize().cy * 2);
@@ -111,8 +112,7 @@ TEST_F(DropList, IsScrolledByItsThumb) {
 TEST_F(DropList, IsTurnedByPagesBesideItsThumb) {
     mouse(WM_LBUTTONDOWN, barX(), listSize().cy - 2);
     mouse(WM_LBUTTONUP, barX(), listSize().cy - 2, 0);
-    const int page = top();
-    EXPECT_EQ(page, listSize().cy / (m_fonts.lineHeight() + scaled(6)));
+    EXPECT_EQ(top(), page());
     const auto [first, last] = thumbOnScreen();
     const int above = first - scaled(4);
     ASSERT_GT(above, 0);

@@ -39,11 +39,15 @@ void expectEachColumnIsNeeded(Read read, const std::string& header, const std::s
     for (std::string title; std::getline(line, title, ',');)
         titles.push_back(title);
     for (const std::string& missing : titles) {
-        std::string rest;
+        std::ostringstream rest;
         for (const std::string& title : titles)
-            rest += title == missing ? "" : title + ',';
-        EXPECT_EQ(messageOf(read, rest + "Note\n"), file + ", wiersz 1, kolumna " + std::to_string(titles.size() + 1) +
-                                                        ": brak kolumny „" + missing + "”; dopisz ją do nagłówka");
+            if (title != missing)
+                rest << title << ',';
+        rest << "Note\n";
+        std::ostringstream told;
+        told << file << ", wiersz 1, kolumna " << titles.size() + 1 << ": brak kolumny „" << missing
+             << "”; dopisz ją do nagłówka";
+        EXPECT_EQ(messageOf(read, rest.str()), told.str());
     }
 }
 
