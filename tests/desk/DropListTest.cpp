@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include "DeskColors.h"
 #include "DeskControls.h"
 #include "DeskScrollBar.h"
@@ -95,7 +97,7 @@ TEST_F(DropList, IsScrolledByItsThumb) {
     EXPECT_LE(first, scaled(2));
     mouse(WM_LBUTTONDOWN, barX(), first + 3);
     mouse(WM_MOUSEMOVE, barX(), listSize().cy / 2);
-    EXPECT_NEAR(top(), (Items - page()) / 2, Items / 6);
+    EXPECT_LE(std::abs(top() - (Items - page()) / 2), Items / 6) << top();
     EXPECT_GT(thumbOnScreen().first, first + 10);
     // Beside the list too.
     mouse(WM_MOUSEMOVE, -50, listSize().cy * 2);
