@@ -31,6 +31,24 @@ int WINAPI countScreenQuestion(HDC dc, int index) {
     return ::GetDeviceCaps(dc, index);
 }
 
+int screensTaken = 0;
+int screensReturned = 0;
+
+HDC WINAPI takeScreen(HWND window) {
+    ++screensTaken;
+    return ::GetDC(window);
+}
+
+int WINAPI returnScreen(HWND window, HDC dc) {
+    ++screensReturned;
+    return ::ReleaseDC(window, dc);
+}
+
+// From before main, for the library asks the screen only once.
+const support::ImportPatch takingPatch(::GetModuleHandleW(L"OrtinControls.dll"), "user32.dll", "GetDC", &takeScreen);
+const support::ImportPatch returningPatch(::GetModuleHandleW(L"OrtinControls.dll"), "user32.dll", "ReleaseDC",
+                                          &returnScreen);
+
 struct GradientCall {
     std::vector<TRIVERTEX> vertices;
     std::vector<GRADIENT_RECT> meshes;
@@ -79,6 +97,12 @@ TEST(ScreenAtScale, GivesTheFactorThatWasFoundFirst) {
                                      &countScreenQuestion);
     EXPECT_EQ(pretendedScale(), GraphicsHelper::GetSystemScaleFactor());
     EXPECT_EQ(0, screenQuestions);
+}
+
+TEST(ScreenAtScale, IsReturnedWhenItsFactorIsKnown) {
+    GraphicsHelper::GetSystemScaleFactor();
+    EXPECT_GE(screensTaken, 1);
+    EXPECT_EQ(screensTaken, screensReturned);
 }
 
 TEST(ScreenAtScale, DecidesOnTiersHeightsAndPictures) {
