@@ -25,10 +25,12 @@ BarPicture BarPicture::of(const BarLayout& layout, const Samples& samples, int u
     BarPicture picture{};
     auto patch = picture.patches.begin();
     const Grip grip = gripOf(layout.thumb, unit);
+    // A thumb that is turned around, on a bar too low for its insets, does not show; the lines on it do all the same.
+    const auto [top, bottom] = std::minmax(grip.top, grip.bottom);
     // A pen covers as much on both sides of its line.
     const int half = hasGrip(layout.thumb) ? kFiner * unit / 2 : 0;
     for (const int x : grip.x) {
-        BarRect line = magnified({x, grip.top, x, grip.bottom});
+        BarRect line = magnified({x, top, x, bottom});
         line.left -= half;
         line.right += half;
         *patch++ = {shown(line, samples), Part::Grip};

@@ -12,7 +12,8 @@ class IVectorPainter;
 /// The window that shows what a painter has drawn. It draws nothing itself: it copies the painter's picture when the
 /// painter says that one is ready, and when the system asks for a repaint.
 ///
-/// The painter is the host's and outlives the window, at whose end it lets its surfaces go. The copy runs in the
+/// The painter is the host's and outlives the window, at whose end it lets its surfaces go. A painter of the host's own
+/// may destroy the window from inside the calls that it gets, but not delete the object. The copy runs in the
 /// window's thread under a lock of the window, which orders copies among themselves only; see VectorPainterGdi for what
 /// a host that renders in another thread has to keep apart.
 class ORTIN_CONTROLS_API VectorCanvasCtrl : public CWnd {

@@ -16,20 +16,49 @@ constexpr Marks kSquare{kRed, 1, kBlue, true, 6, false, 1.0F, false};
 
 std::string calls;
 
-Gdiplus::GpStatus WINGDIPAPI recordSquare(Gdiplus::GpGraphics*, Gdiplus::GpPen*, Gdiplus::REAL x, Gdiplus::REAL y,
-                                          Gdiplus::REAL width, Gdiplus::REAL height) {
+Gdiplus::GpStatus record(const char* shape, Gdiplus::REAL x, Gdiplus::REAL y, Gdiplus::REAL width,
+                         Gdiplus::REAL height) {
     CStringA text;
-    text.Format("square %g,%g %gx%g; ", x, y, width, height);
+    text.Format("%s %g,%g %gx%g; ", shape, x, y, width, height);
     calls += text.GetString();
     return Gdiplus::Ok;
 }
 
+Gdiplus::GpStatus WINGDIPAPI recordSquare(Gdiplus::GpGraphics*, Gdiplus::GpPen*, Gdiplus::REAL x, Gdiplus::REAL y,
+                                          Gdiplus::REAL width, Gdiplus::REAL height) {
+    return record("square", x, y, width, height);
+}
+
+Gdiplus::GpStatus WINGDIPAPI recordFilledSquare(Gdiplus::GpGraphics*, Gdiplus::GpBrush*, Gdiplus::REAL x,
+                                                Gdiplus::REAL y, Gdiplus::REAL width, Gdiplus::REAL height) {
+    return record("filled square", x, y, width, height);
+}
+
 Gdiplus::GpStatus WINGDIPAPI recordCircle(Gdiplus::GpGraphics*, Gdiplus::GpPen*, Gdiplus::REAL x, Gdiplus::REAL y,
                                           Gdiplus::REAL width, Gdiplus::REAL height) {
+    return record("circle", x, y, width, height);
+}
+
+Gdiplus::GpStatus WINGDIPAPI recordFilledCircle(Gdiplus::GpGraphics*, Gdiplus::GpBrush*, Gdiplus::REAL x,
+                                                Gdiplus::REAL y, Gdiplus::REAL width, Gdiplus::REAL height) {
+    return record("filled circle", x, y, width, height);
+}
+
+Gdiplus::GpStatus WINGDIPAPI recordPen(Gdiplus::ARGB color, Gdiplus::REAL width, Gdiplus::GpUnit unit,
+                                       Gdiplus::GpPen** pen) {
     CStringA text;
-    text.Format("circle %g,%g %gx%g; ", x, y, width, height);
+    text.Format("pen %08X %g unit %d; ", color, width, unit);
     calls += text.GetString();
-    return Gdiplus::Ok;
+    *pen = nullptr;
+    return Gdiplus::OutOfMemory;
+}
+
+Gdiplus::GpStatus WINGDIPAPI recordBrush(Gdiplus::ARGB color, Gdiplus::GpSolidFill** brush) {
+    CStringA text;
+    text.Format("brush %08X; ", color);
+    calls += text.GetString();
+    *brush = nullptr;
+    return Gdiplus::OutOfMemory;
 }
 
 Gdiplus::GpStatus WINGDIPAPI recordSmoothing(Gdiplus::GpGraphics*, Gdiplus::SmoothingMode mode) {
@@ -51,7 +80,9 @@ protected:
     std::string callsOf(std::initializer_list<Point> points, const Marks& settings, Point offset = {0, 0}) {
         const HMODULE controls = ::GetModuleHandleW(L"OrtinControls.dll");
         const support::ImportPatch square(controls, "gdiplus.dll", "GdipDrawRectangle", &recordSquare);
+        const support::ImportPatch filledSquare(controls, "gdiplus.dll", "GdipFillRectangle", &recordFilledSquare);
         const support::ImportPatch circle(controls, "gdiplus.dll", "GdipDrawEllipse", &recordCircle);
+        const support::ImportPatch filledCircle(controls, "gdiplus.dll", "GdipFillEllipse", &recordFilledCircle);
         const support::ImportPatch smoothing(controls, "gdiplus.dll", "GdipSetSmoothingMode", &recordSmoothing);
         const support::ImportPatch interpolation(controls, "gdiplus.dll", "GdipSetInterpolationMode",
                                                  &recordInterpolation);
@@ -68,15 +99,54 @@ protected:
 TEST_F(ControlPoints, LieAroundTheTruncatedPointWithTheOffsetAdded) {
     Marks settings = kSquare;
     settings.pointSize = 7;
-    EXPECT_EQ("smoothing 3; interpolation 5; square 7,7 7x7; ", callsOf({{10.9F, 10.9F}}, settings, {0.5F, 0.5F}));
+    EXPECT_EQ("smoothing 3; interpolation 5; filled square 7,7 7x7; square 7,7 7x7; ",
+              callsOf({{10.9F, 10.9F}}, settings, {0.5F, 0.5F}));
 }
 
 TEST_F(ControlPoints, AreCirclesAndSmoothWhenTold) {
     Marks settings = kSquare;
     settings.circle = true;
     settings.smooth = true;
-    EXPECT_EQ("smoothing 2; interpolation 2; circle 7,7 6x6; circle 17,7 6x6; ",
+    EXPECT_EQ("smoothing 2; interpolation 2; filled circle 7,7 6x6; circle 7,7 6x6; "
+              "filled circle 17,7 6x6; circle 17,7 6x6; ",
               callsOf({{10, 10}, {20, 10}}, settings));
+}
+
+TEST_F(ControlPoints, ShareOnePenAndOneBrushOfTheSettings) {
+    const HMODULE controls = ::GetModuleHandleW(L"OrtinControls.dll");
+    const support::ImportPatch pen(controls, "gdiplus.dll", "GdipCreatePen1", &recordPen);
+    const support::ImportPatch brush(controls, "gdiplus.dll", "GdipCreateSolidFill", &recordBrush);
+    struct Case {
+        Marks settings;
+        const char* calls;
+    };
+    // Colours are 0x00BBGGRR in the settings and 0xAARRGGBB here.
+    for (const Case& c :
+         {Case{{0x112233, 3, 0x445566, true, 6, false, 1.0F, false}, "pen FF332211 3 unit 0; brush FF665544; "},
+          Case{{0x112233, 1, 0x445566, true, 6, true, 0.5F, true}, "pen 7F332211 1 unit 0; brush 7F665544; "},
+          Case{{0x112233, 0, 0x445566, false, 6, true, 1.0F, true}, "pen FF332211 0 unit 0; brush 00000000; "}}) {
+        calls.clear();
+        draw({{10, 10}, {20, 10}, {30, 10}}, c.settings);
+        EXPECT_EQ(c.calls, calls);
+        calls.clear();
+        const Point unread{};
+        DrawControlPointsHelper::DrawControlPoints(device.dc(), &unread, 0, {0, 0}, c.settings);
+        EXPECT_EQ(c.calls, calls) << "made for no points too";
+    }
+}
+
+TEST_F(ControlPoints, AreFilledCirclesWithAnOutline) {
+    Marks settings = kSquare;
+    settings.circle = true;
+    settings.pointSize = 12;
+    draw({{15, 15}}, settings);
+    const support::Pixels pixels = device.pixels();
+    EXPECT_EQ(kBlue, pixels.at(15, 15));
+    EXPECT_EQ(kWhite, pixels.at(9, 9)) << "no corner";
+    EXPECT_EQ(40U * 30U, pixels.count(kWhite) + pixels.count(kRed) + pixels.count(kBlue)) << "no blended colour";
+    for (const POINT& end : {POINT{9, 15}, POINT{21, 15}, POINT{15, 9}, POINT{15, 21}}) {
+        EXPECT_EQ(kRed, pixels.at(end.x, end.y)) << end.x << ',' << end.y;
+    }
 }
 
 TEST_F(ControlPoints, AreFilledSquaresWithAnOutline) {
@@ -117,8 +187,8 @@ TEST_F(ControlPoints, AreInvisibleWithoutOpacityAndHalfVisibleWithHalf) {
 TEST_F(ControlPoints, OfNoPointsDrawNothing) {
     const support::Pixels before = device.pixels();
     DrawControlPointsHelper::DrawControlPoints(device.dc(), nullptr, 5, {0, 0}, kSquare);
-    draw({}, kSquare);
     const Point point{10, 10};
+    DrawControlPointsHelper::DrawControlPoints(device.dc(), &point, 0, {0, 0}, kSquare);
     DrawControlPointsHelper::DrawControlPoints(nullptr, &point, 1, {0, 0}, kSquare);
     EXPECT_EQ(before, device.pixels());
 }
@@ -128,7 +198,8 @@ TEST_F(ControlPoints, AtImpossiblePlacesAreDrawnAwayFromThePicture) {
     const float infinity = std::numeric_limits<float>::infinity();
     draw({{infinity, 0}, {-infinity, 5}, {3e9F, -3e9F}, {1e38F, 1e38F}}, kSquare);
     EXPECT_EQ(before, device.pixels());
-    EXPECT_EQ("smoothing 3; interpolation 5; square 0,7 6x6; ", callsOf({{std::nanf(""), 10}}, kSquare, {20, 0}))
+    EXPECT_EQ("smoothing 3; interpolation 5; filled square 0,7 6x6; square 0,7 6x6; ",
+              callsOf({{std::nanf(""), 10}}, kSquare, {20, 0}))
         << "what is no number counts as 0";
     Marks vast = kSquare;
     vast.pointSize = std::numeric_limits<int>::max();

@@ -1,59 +1,6 @@
-#include "PainterFixture.h"
-
-#include <chrono>
-#include <functional>
-#include <future>
-#include <stdexcept>
-#include <string>
-#include <thread>
-#include <utility>
-
-#include "support/ImportPatch.h"
-#include "support/Pump.h"
-#include "support/TopLevelWindow.h"
+#include "CanvasFixture.h"
 
 using VectorCanvas::VectorCanvasCtrl;
-
-namespace {
-
-constexpr COLORREF kMargin = RGB(10, 20, 30);
-
-class Canvas : public VectorCanvasCtrl {
-public:
-    explicit Canvas(VectorCanvas::IVectorPainter* painter) : VectorCanvasCtrl(painter) { m_marginColor = kMargin; }
-
-    using VectorCanvasCtrl::OnWndMsg;
-
-    std::string* log = nullptr;
-
-    void Draw(CDC* dc, const CPoint& origin) override {
-        if (log != nullptr) {
-            *log += "draw " + std::to_string(origin.x) + ',' + std::to_string(origin.y) + "; ";
-        }
-        VectorCanvasCtrl::Draw(dc, origin);
-    }
-};
-
-class Canvases : public PainterFixture {
-protected:
-    /// The window stands in a host of the same size.
-    void create(const CSize& size) {
-        ASSERT_TRUE(canvas.Create(L"canvas", WS_CHILD | WS_VISIBLE, CRect(CPoint(0, 0), size), &host, 5));
-        support::pumpUntilIdle();
-    }
-    void render(int width, int height, bool synchronous = true) {
-        begin(width, height);
-        painter.DrawRect({2, 2, 10, 10}, kRed, kBlue, kId);
-        painter.EndRender(synchronous);
-    }
-    support::Pixels shown() const { return support::Pixels::ofClient(canvas); }
-
-    std::string log;
-    support::ScopedTopLevelWindow host{CSize(120, 100)};
-    Canvas canvas{&painter};
-};
-
-} // namespace
 
 TEST_F(Canvases, AreNotMadeWithoutAPainter) {
     VectorCanvasCtrl none(nullptr);
@@ -242,54 +189,4 @@ TEST_F(Canvases, MayEndWhileTheyAreDrawn) {
     render(60, 40);
     EXPECT_EQ(nullptr, passing.m_hWnd);
     EXPECT_EQ(nullptr, painter.GetSource());
-}
-
-namespace {
-
-/// Something happens while its picture is copied.
-class InterruptedPainter : public VectorCanvas::VectorPainterGdi {
-public:
-    HDC GetSource() const override {
-        if (const auto once = std::exchange(onCopy, {})) {
-            once();
-        }
-        return VectorPainterGdi::GetSource();
-    }
-
-    mutable std::function<void()> onCopy;
-};
-
-} // namespace
-
-TEST_F(Canvases, MayBeDrawnFromWithinTheirDrawing) {
-    InterruptedPainter interrupted;
-    Canvas nested(&interrupted);
-    ASSERT_TRUE(nested.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 60, 40), &host, 6));
-    support::pumpUntilIdle();
-    ASSERT_TRUE(interrupted.InitRender(CSize(60, 40)));
-    nested.log = &log;
-    interrupted.onCopy = [&] { nested.SendMessage(VectorCanvasCtrl::GetUpdatePaintingMessage()); };
-    interrupted.EndRender(true);
-    EXPECT_EQ("draw 0,0; draw 0,0; ", log);
-}
-
-TEST_F(Canvases, AreDrawnByOtherThreadsAfterACopyThatFailed) {
-    InterruptedPainter interrupted;
-    Canvas failing(&interrupted);
-    ASSERT_TRUE(failing.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 60, 40), &host, 6));
-    support::pumpUntilIdle();
-    interrupted.onCopy = [] { throw std::runtime_error("no picture"); };
-    const support::MemoryDevice device(60, 40);
-    CDC* const dc = CDC::FromHandle(device.dc());
-    EXPECT_THROW(failing.Draw(dc, CPoint(0, 0)), std::runtime_error);
-    std::promise<void> drawn;
-    std::thread drawer([&] {
-        failing.Draw(dc, CPoint(0, 0));
-        drawn.set_value();
-    });
-    if (drawn.get_future().wait_for(std::chrono::seconds(10)) != std::future_status::ready) {
-        drawer.detach();
-        FAIL() << "the lock is still held";
-    }
-    drawer.join();
 }

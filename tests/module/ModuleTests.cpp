@@ -1,6 +1,6 @@
 // The library as a host loads it: what it carries, what it registers, how a refused registration ends.
 
-#include <set>
+#include <iterator>
 #include <string>
 #include <thread>
 #include <vector>
@@ -40,6 +40,37 @@ protected:
     HMODULE m_library = nullptr;
 };
 
+struct DialogItem {
+    int id;
+    const wchar_t* windowClass;
+    int x, y, width, height;
+};
+
+std::string describe(const RECT& rect) {
+    return std::to_string(rect.left) + "," + std::to_string(rect.top) + " " + std::to_string(rect.right - rect.left) +
+           "x" + std::to_string(rect.bottom - rect.top);
+}
+
+/// `unit` holds place and size, each of which the system scales for itself.
+std::string inPixels(HWND dialog, RECT unit) {
+    ::MapDialogRect(dialog, &unit);
+    return describe({unit.left, unit.top, unit.left + unit.right, unit.top + unit.bottom});
+}
+
+void expectItem(HWND dialog, const DialogItem& expected) {
+    HWND const item = ::GetDlgItem(dialog, expected.id);
+    ASSERT_NE(nullptr, item) << expected.id;
+    wchar_t name[20]{};
+    ::GetClassNameW(item, name, static_cast<int>(std::size(name)));
+    EXPECT_STREQ(expected.windowClass, name) << expected.id;
+    EXPECT_EQ(0, ::GetWindowLongW(item, GWL_STYLE) & BS_TYPEMASK) << "push button, left text, plain edit";
+    RECT place{};
+    ::GetWindowRect(item, &place);
+    ::MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
+    EXPECT_EQ(inPixels(dialog, {expected.x, expected.y, expected.width, expected.height}), describe(place))
+        << expected.id;
+}
+
 TEST_F(LoadedModule, CarriesItsPicturesCursorAndDialogsInTheirLanguages) {
     for (int id = 3011; id <= 3028; ++id) {
         EXPECT_TRUE(carries(id, L"PNG", kPolish)) << id;
@@ -65,26 +96,52 @@ TEST_F(LoadedModule, PicturesHaveTheSizesOfTheirFamilies) {
     }
 }
 
-TEST_F(LoadedModule, DialogTemplatesHoldTheirItems) {
+TEST_F(LoadedModule, DialogTemplatesHoldTheirItemsInPlace) {
+    // Places and sizes are in dialog units.
+    const std::vector<DialogItem> oneLine{
+        {3004, L"Edit", 3, 3, 100, 12}, {3001, L"Button", 106, 3, 14, 12}, {3003, L"Button", 121, 3, 14, 12}};
     struct Case {
         int id;
-        std::vector<int> items;
         bool child;
+        SIZE size;
+        std::vector<DialogItem> items;
     };
-    for (const Case& dialog :
-         {Case{103, {3004, 3001, 3003}, true}, Case{3006, {3004, 3001, 3003}, false}, Case{3007, {3010}, true}}) {
+    for (const Case& c : {Case{103, true, {138, 17}, oneLine}, Case{3006, false, {138, 17}, oneLine},
+                          Case{3007, true, {241, 175}, {{3010, L"Static", 3, 2, 235, 172}}}}) {
+        SCOPED_TRACE(c.id);
         HWND const parent =
-            ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 500, 500, nullptr, nullptr, nullptr, nullptr);
-        HWND const window = ::CreateDialogParamW(
-            m_library, MAKEINTRESOURCEW(dialog.id), parent, [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; },
-            0);
-        ASSERT_NE(nullptr, window) << dialog.id;
-        EXPECT_EQ(dialog.child, (::GetWindowLongW(window, GWL_STYLE) & WS_CHILD) != 0) << dialog.id;
-        for (const int item : dialog.items) {
-            EXPECT_NE(nullptr, ::GetDlgItem(window, item)) << dialog.id << " item " << item;
+            ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 900, 900, nullptr, nullptr, nullptr, nullptr);
+        HWND const dialog = ::CreateDialogParamW(
+            m_library, MAKEINTRESOURCEW(c.id), parent, [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0);
+        ASSERT_NE(nullptr, dialog);
+        EXPECT_EQ(c.child, (::GetWindowLongW(dialog, GWL_STYLE) & WS_CHILD) != 0);
+        EXPECT_EQ(!c.child, (::GetWindowLongW(dialog, GWL_STYLE) & WS_POPUP) != 0);
+        RECT client{};
+        ::GetClientRect(dialog, &client);
+        EXPECT_EQ(inPixels(dialog, {0, 0, c.size.cx, c.size.cy}), describe(client));
+        std::size_t children = 0;
+        for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
+            ++children;
         }
-        ::DestroyWindow(window);
+        EXPECT_EQ(c.items.size(), children);
+        for (const DialogItem& item : c.items) {
+            expectItem(dialog, item);
+        }
+        ::DestroyWindow(dialog);
         ::DestroyWindow(parent);
+    }
+}
+
+TEST_F(LoadedModule, DialogTemplatesOfOneLineNameTheirTypeface) {
+    for (const int id : {103, 3006}) {
+        const HRSRC resource = ::FindResourceW(m_library, MAKEINTRESOURCEW(id), MAKEINTRESOURCEW(5));
+        const auto* const words = static_cast<const WORD*>(::LockResource(::LoadResource(m_library, resource)));
+        ASSERT_NE(nullptr, words) << id;
+        EXPECT_EQ(0xFFFF, words[1]) << "the extended form, whose words this test counts";
+        // Behind 13 words of head an empty menu, the usual class, an empty title.
+        EXPECT_EQ(0, words[13] + words[14] + words[15]) << id;
+        EXPECT_EQ(8, words[16]) << id;
+        EXPECT_STREQ(L"MS Shell Dlg", reinterpret_cast<const wchar_t*>(words + 19)) << id;
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include "BarFixture.h"
 #include "support/Pump.h"
+#include "support/Resources.h"
 
 namespace {
 
@@ -305,6 +306,37 @@ TEST_F(BarOwner, MayThrow) {
     owner.onChange = nullptr;
     bar->SetCurrent(0.1, 0.2);
     EXPECT_NE("", log()) << "a set bar still drives the drag";
+}
+
+TEST_F(BarOwner, FindsNothingLeftBehindByThousandsOfBars) {
+    const auto live = [this](int life) {
+        bar = std::make_unique<WatchedBar>(&owner);
+        createBar();
+        show(0.25, 0.75);
+        const std::vector<Telling> all = tellings();
+        all[static_cast<std::size_t>(life) % all.size()].run(*this);
+        if (life % 2 == 0) {
+            bar->DestroyWindow(); // else its end does it, in the middle of a drag now and then
+        }
+        bar.reset();
+        log();
+    };
+    constexpr int kWarmUp = 100;
+    constexpr int kLives = 3000;
+    for (int life = 0; life < kWarmUp; ++life) {
+        live(life);
+    }
+    support::pumpUntilIdle();
+    const support::Resources before = support::Resources::inUse();
+    for (int life = 0; life < kLives; ++life) {
+        live(life);
+    }
+    support::pumpUntilIdle();
+    const support::Resources after = support::Resources::inUse();
+    // Room for the caches of the system, far less than one object or a few bytes a life.
+    EXPECT_LE(after.gdiHandles, before.gdiHandles + 10) << after;
+    EXPECT_LE(after.windows, before.windows + 3) << after;
+    EXPECT_LE(after.heapBytes, before.heapBytes + 20 * kLives) << before << after;
 }
 
 TEST_F(BarOwner, MayTakeTheBarFromADialog) {

@@ -251,6 +251,17 @@ TEST_F(BarMouse, EndsADragWhoseReleaseNobodySaw) {
     EXPECT_EQ("", log());
 }
 
+TEST_F(BarMouse, TakesBackTheCaptureThatItLostInADragAndGoesOn) {
+    press(200);
+    ::SetCapture(host);
+    EXPECT_EQ("", log());
+    dragTo(204);
+    EXPECT_EQ("moving 0.01 0.26-0.76", log());
+    EXPECT_TRUE(hasCapture());
+    release(204);
+    EXPECT_EQ("moved 0.26-0.76", log());
+}
+
 TEST_F(BarMouse, GoesOnFromTheEdgeOfTheBarWhenItComesBack) {
     press(200);
     dragTo(900);
@@ -361,7 +372,7 @@ TEST_F(BarMouse, AgreesWithTheReferenceOverRandomGestures) {
         const unsigned flags = kFlags[below(6)];
         switch (below(40)) {
         case 0:
-            size = CSize(20 + below(500), 5 + below(60));
+            size = CSize(1 + below(520), 1 + below(65));
             bar->MoveWindow(20, 20, size.cx, size.cy);
             reference.resize(size.cx, size.cy);
             break;

@@ -129,7 +129,8 @@ TEST_F(BarPicture, HasAGripFromEightPixelsOn) {
 
 TEST_F(BarPicture, IsExactInEachSize) {
     for (const CSize size : {CSize(424, 24), CSize(423, 25), CSize(580, 60), CSize(100, 100), CSize(40, 17),
-                             CSize(31, 8), CSize(9, 5), CSize(3, 3), CSize(1, 1), CSize(30, 90)}) {
+                             CSize(31, 8), CSize(9, 5), CSize(3, 3), CSize(1, 1), CSize(30, 90), CSize(1, 24),
+                             CSize(400, 4), CSize(400, 3), CSize(400, 2), CSize(400, 1)}) {
         resize(size.cx, size.cy);
         for (const double start : {0.0, 0.3, 0.999}) {
             show(start, 1.0);
@@ -153,7 +154,7 @@ TEST_F(BarPicture, IsThatOfTheLongWayWhereverTheThumbLies) {
 
 TEST_F(BarPicture, OfAWideBarIsThatOfTheLongWayToItsLastPixel) {
     constexpr int kOnScreen = 1000;
-    for (const CSize size : {CSize(1180, 24), CSize(1919, 31), CSize(3840, 24)}) {
+    for (const CSize size : {CSize(1180, 24), CSize(1919, 31), CSize(3840, 24), CSize(20'000, 24)}) {
         host.MoveWindow(kOnScreen - size.cx, 0, size.cx + 40, 120);
         resize(size.cx, size.cy);
         const RECT seen{size.cx - kOnScreen + 100, 0, size.cx, size.cy};

@@ -167,7 +167,8 @@ TEST(RandomDrags, AgreeWithTheReferenceAndKeepTheWindowInTheRange) {
     std::mt19937 random(52);
     const auto below = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
     for (int life = 0; life < 4000; ++life) {
-        const BarSize client{20 + below(700), 4 + below(60)};
+        constexpr int kWidths[] = {0, 1, 2, 20'000};
+        const BarSize client{below(10) == 0 ? kWidths[below(4)] : 20 + below(700), below(65)};
         ReferenceBar reference(client.width, client.height);
         Bar bar(client, 0.0, 1.0);
         // The gesture itself is the window's; the reference has one of its own, so that only its arithmetic is used.

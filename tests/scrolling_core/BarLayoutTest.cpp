@@ -43,6 +43,15 @@ TEST(BarLayout, OfANarrowThumbWidensWhereItIsPressed) {
     EXPECT_EQ((BarRect{194, 3, 217, 21}), layout.thumbHit);
 }
 
+TEST(BarLayout, WidensByHalfAnEdgeTruncated) {
+    // 26 high: edges of 13, a track of 374, a thumb of 6.
+    const BarLayout layout = layoutOf(400, 26, 0.5, 0.5 + 6.5 / 374);
+    EXPECT_EQ((BarRect{200, 3, 206, 23}), layout.thumb);
+    EXPECT_EQ((BarRect{194, 3, 212, 23}), layout.thumbHit);
+    EXPECT_EQ((BarRect{181, 3, 213, 23}), layout.leftHit);
+    EXPECT_EQ((BarRect{193, 3, 225, 23}), layout.rightHit);
+}
+
 TEST(BarLayout, BetweenOneAndTwoEdgesWideLeavesTheThumbNoPlaceOfItsOwn) {
     for (const int width : {12, 18, 24}) {
         const BarLayout layout = layoutOf(400, 24, 0.5, 0.5 + width / 376.0);

@@ -21,12 +21,12 @@ std::vector<int> samplesAt(int within, int length) {
     return samples;
 }
 
-BarPicture pictureOf(double start, double end, int within, int unit = 1) {
+BarPicture pictureOf(double start, double end, int within, int unit = 1, int height = kHeight) {
     RangeWindow window;
     window.start = start;
     window.end = end;
-    const BarLayout layout = BarLayout::of({kWidth, kHeight}, window);
-    return BarPicture::of(layout, {samplesAt(within, kWidth), samplesAt(within, kHeight)}, unit);
+    const BarLayout layout = BarLayout::of({kWidth, height}, window);
+    return BarPicture::of(layout, {samplesAt(within, kWidth), samplesAt(within, height)}, unit);
 }
 
 /// "left,top right,bottom" of each patch that shows, from the front to the back.
@@ -66,6 +66,19 @@ TEST(BarPicture, OfAGripHasWholePixelsOnBothSidesOfALineOfTwo) {
 TEST(BarPicture, OfAThumbBelowEightPixelsHasNoGrip) {
     EXPECT_EQ("", describe(pictureOf(0.5, 0.5 + 7.5 / 54, 1), Part::Grip));
     EXPECT_NE("", describe(pictureOf(0.5, 0.5 + 8.5 / 54, 1), Part::Grip));
+}
+
+TEST(BarPicture, OfABarTooLowForItsThumbHasItsGripAlone) {
+    struct Case {
+        int height;
+        const char* grip;
+    };
+    for (const Case& c : {Case{4, ""}, Case{3, "30,1 31,2; 32,1 33,2; 28,1 29,2; 34,1 35,2; "},
+                          Case{2, "30,0 31,2; 32,0 33,2; 28,0 29,2; 34,0 35,2; "}}) {
+        const BarPicture picture = pictureOf(0.25, 0.75, 1, 1, c.height);
+        EXPECT_EQ("", describe(picture, Part::Thumb)) << c.height;
+        EXPECT_EQ(c.grip, describe(picture, Part::Grip)) << c.height;
+    }
 }
 
 TEST(BarPicture, OfAWindowThatEndsBeforeItBeginsHasNoThumb) {

@@ -110,6 +110,15 @@ TEST(HslColor, BecomesAColourThroughWholePercent) {
         {"blue", {240, 100, 50}, rgb(0, 0, 255)},
         {"black in any hue", {240, 100, 0}, 0},
         {"white in any hue", {240, 100, 100}, rgb(255, 255, 255)},
+        {"yellow: red reaches past its third, which is short", {60, 20, 50}, rgb(153, 153, 102)},
+        {"magenta: blue does not reach a short third", {300, 20, 50}, rgb(150, 102, 150)},
+        {"green that is pale: both its neighbours are off their thirds", {120, 20, 80}, rgb(191, 214, 193)},
+        {"violet", {255, 20, 30}, rgb(66, 61, 91)},
+        {"lime: red falls from two thirds, which are short", {75, 20, 50}, rgb(137, 153, 102)},
+        {"azure: green falls from two thirds", {195, 60, 60}, rgb(91, 181, 214)},
+        {"leaf green", {135, 60, 40}, rgb(38, 163, 71)},
+        {"pink", {315, 40, 70}, rgb(209, 145, 191)},
+        {"the last degree", {359, 100, 50}, rgb(255, 0, 2)},
     };
     for (const Case& c : cases) {
         EXPECT_EQ(c.color, HslColor::toColor(c.hsl)) << c.what;
