@@ -141,6 +141,7 @@ TEST(FittedBar, KeepsThePositionInProportionToThePage) {
         {"the window grows", {1000, 200, 100}, 300, {300, 150, 999}},
         {"the window shrinks", {1000, 200, 100}, 100, {100, 50, 999}},
         {"truncated", {1000, 200, 101}, 199, {199, 100, 999}},
+        {"multiplied first: 58 / 200 is a little less than 0.29", {1000, 200, 58}, 100, {100, 29, 999}},
         {"not in proportion from the origin", {1000, 200, 0}, 300, {300, 0, 999}},
         {"not in proportion without a page", {1000, 0, 100}, 300, {300, 100, 999}},
         {"one pixel less than what scrolling reaches", {1000, 200, 800}, 200, {200, 799, 999}},
