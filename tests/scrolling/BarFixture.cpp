@@ -45,6 +45,13 @@ LRESULT WatchedBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     return AdvancedScroll::WindowProc(message, wParam, lParam);
 }
 
+LRESULT WatchedBar::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_TIMER) {
+        ticksLeft += std::to_string(wParam) + "; ";
+    }
+    return AdvancedScroll::DefWindowProc(message, wParam, lParam);
+}
+
 BarFixture::BarFixture() {
     createBar();
 }

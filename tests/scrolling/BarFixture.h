@@ -45,15 +45,17 @@ private:
 using support::ScopedKeys;
 using support::ScopedTheme;
 
-/// Tells whether its background was to be erased.
+/// Tells whether its background was to be erased, and which ticks it left to the default handling.
 class WatchedBar : public AdvancedScroll {
 public:
     using AdvancedScroll::AdvancedScroll;
 
     bool erased = false;
+    std::string ticksLeft;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 };
 
 /// A bar of 424 x 24 pixels in a window: its track is 400 pixels, so that 4 pixels are a hundredth. Mouse and timers

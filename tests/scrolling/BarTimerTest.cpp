@@ -120,6 +120,22 @@ TEST_F(HeldClick, LeavesOtherTimersAlone) {
     EXPECT_EQ("", log()) << "the first tick is still to be skipped";
 }
 
+TEST_F(HeldClick, LeavesToTheDefaultHandlingTheTicksThatMoveItAndThoseOfOthers) {
+    {
+        const ScopedKeys keys({VK_LBUTTON});
+        point(400);
+        press(400);
+        tick(1);
+        EXPECT_EQ("", bar->ticksLeft) << "skipped";
+        tick(1);
+        tick(2);
+        tick(7);
+        EXPECT_EQ("1; 2; 7; ", bar->ticksLeft);
+    }
+    tick(2);
+    EXPECT_EQ("1; 2; 7; ", bar->ticksLeft) << "the button is up";
+}
+
 TEST_F(HeldClick, StartsAnewWithEachPress) {
     const ScopedKeys keys({VK_LBUTTON});
     point(400);
