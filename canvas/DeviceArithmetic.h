@@ -43,6 +43,45 @@ inline OrtinPoint<float> withinReach(const OrtinPoint<float>& point) {
     return {withinReach(point.x), withinReach(point.y)};
 }
 
+/// A line between two points.
+struct Segment {
+    OrtinPoint<float> from;
+    OrtinPoint<float> to;
+
+    friend bool operator==(const Segment&, const Segment&) = default;
+};
+
+/// What lies within reach of a line, which keeps its course: a trend that begins years before the picture crosses it
+/// where it should. A line that comes nowhere near, and one too long to be followed, is led by its ends alone.
+inline Segment segmentWithinReach(const Segment& line) {
+    constexpr double kTooLong = 1e12; // a double still tells pixels apart there
+    const Segment ends{withinReach(line.from), withinReach(line.to)};
+    const double width = static_cast<double>(line.to.x) - line.from.x;
+    const double height = static_cast<double>(line.to.y) - line.from.y;
+    if (ends == line || !(std::abs(width) < kTooLong && std::abs(height) < kTooLong)) {
+        return ends;
+    }
+    double entry = 0;
+    double exit = 1;
+    const auto cut = [&](double start, double length) {
+        if (length != 0) {
+            const auto [first, last] = std::minmax({(-kReach - start) / length, (kReach - start) / length});
+            entry = std::max(entry, first);
+            exit = std::min(exit, last);
+        }
+    };
+    cut(line.from.x, width);
+    cut(line.from.y, height);
+    if (entry > exit) {
+        return ends;
+    }
+    const auto at = [&](double part) {
+        return withinReach(OrtinPoint<float>{static_cast<float>(line.from.x + part * width),
+                                             static_cast<float>(line.from.y + part * height)});
+    };
+    return {at(entry), at(exit)};
+}
+
 /// As toPixel, within reach.
 inline int toPixelWithinReach(float coordinate) {
     return static_cast<int>(withinReach(coordinate));

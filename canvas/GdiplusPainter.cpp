@@ -44,9 +44,8 @@ Gdiplus::Point toGdiPlusPoint(const Point& point) {
 }
 
 void drawSegment(Gdiplus::Graphics& graphics, const Gdiplus::Pen& pen, const Point& from, const Point& to) {
-    const Point start = VectorCanvas::withinReach(from);
-    const Point end = VectorCanvas::withinReach(to);
-    graphics.DrawLine(&pen, start.x, start.y, end.x, end.y);
+    const VectorCanvas::Segment line = VectorCanvas::segmentWithinReach({from, to});
+    graphics.DrawLine(&pen, line.from.x, line.from.y, line.to.x, line.to.y);
 }
 
 /// The same font with hard edges: smoothed glyphs would leave ids of nobody in the shadow.
@@ -101,7 +100,7 @@ void GdiplusPainter::MarkArea(const DrawContextBase& context, const Gdiplus::Rec
 
 template <typename Fill, typename Outline>
 void GdiplusPainter::DrawShape(const DrawContextGdiLine& context, const Fill& fill, const Outline& outline) const {
-    {
+    if (m_destination != nullptr) {
         Gdiplus::Graphics graphics(m_destination);
         makeSmooth(graphics);
         fill(graphics);
@@ -236,8 +235,8 @@ void GdiplusPainter::DrawPolyline(const Point* points, unsigned __int64 count, c
 void GdiplusPainter::DrawArc(Point center, int radiusX, int radiusY, float startAngle, float sweepAngle,
                              const DrawContextBase* context, const Point& offset) {
     const auto* style = asLine(context);
-    if (style == nullptr || m_destination == nullptr) {
-        return;
+    if (style == nullptr) {
+        return; // without a picture it is drawn in the shadow; meant so
     }
     const VectorCanvas::DeviceRect edges = VectorCanvas::boxAround(center + offset, radiusX, radiusY);
     const Gdiplus::Rect box(edges.left, edges.top, edges.right - edges.left, edges.bottom - edges.top);

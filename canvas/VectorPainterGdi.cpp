@@ -1,6 +1,5 @@
 #include <OrtinControls/VectorPainterGdi.h>
 
-#include <cstddef>
 #include <utility>
 
 #include <OrtinControls/VectorCanvasCtrl.h>
@@ -8,21 +7,6 @@
 #include "WindowDevice.h"
 
 namespace VectorCanvas {
-namespace {
-
-/// The id in a section of 24 bits a pixel whose first row is the lowest. The viewport may have changed since it was
-/// made.
-unsigned int settledId(const BITMAP& section, int x, int y) {
-    if (x >= section.bmWidth || y >= section.bmHeight) {
-        return 0;
-    }
-    constexpr std::ptrdiff_t kBytes = 3;
-    const auto* pixel = static_cast<const BYTE*>(section.bmBits) +
-                        std::ptrdiff_t{section.bmHeight - 1 - y} * section.bmWidthBytes + kBytes * x;
-    return RGB(pixel[2], pixel[1], pixel[0]);
-}
-
-} // namespace
 
 VectorPainterGdi::VectorPainterGdi() = default;
 
@@ -44,8 +28,6 @@ void VectorPainterGdi::Swap(VectorPainterGdi& other) noexcept {
     std::swap(m_shadow, other.m_shadow);
     std::swap(m_source, other.m_source);
     std::swap(m_shadowDevice, other.m_shadowDevice);
-    std::swap(m_shadowPixels, other.m_shadowPixels);
-    std::swap(m_settled, other.m_settled);
     std::swap(m_viewport, other.m_viewport);
     std::swap(m_window, other.m_window);
     std::swap(m_shadowMode, other.m_shadowMode);
@@ -66,7 +48,6 @@ void VectorPainterGdi::Release() {
 }
 
 bool VectorPainterGdi::InitRender(const CSize& size) {
-    m_settled = false;
     if (m_source == nullptr && !InitDestination(m_viewport)) {
         return false;
     }
@@ -98,6 +79,8 @@ bool VectorPainterGdi::InitDestination(const CSize& size) {
     m_gdiPlus.SetDestinationDevice(m_source.get());
     ::SelectObject(m_source.get(), m_destination.GetHandle());
     m_viewport = size;
+    // Without a new one it would go on with the handle of the last, which the system may have given to somebody else.
+    m_gdiPlus.SetShadowDevice(nullptr);
     if (m_shadowMode == 1) {
         InitShadows(screen);
     }
@@ -116,7 +99,6 @@ void VectorPainterGdi::InitShadows(HDC screen) {
     format.bmiHeader.biBitCount = 24;
     // Without memory for it there is a picture in which nothing is found.
     if (m_shadow.CreateDIBSection(screen, &format)) {
-        ::GetObjectW(m_shadow.GetHandle(), sizeof m_shadowPixels, &m_shadowPixels);
         m_shadowDevice.reset(::CreateCompatibleDC(nullptr));
         ::SelectObject(m_shadowDevice.get(), m_shadow.GetHandle());
         ::PatBlt(m_shadowDevice.get(), 0, 0, m_viewport.cx, m_viewport.cy, BLACKNESS);
@@ -130,14 +112,11 @@ void VectorPainterGdi::ReleaseDestination() {
     m_shadowDevice.reset();
     m_destination.Delete();
     m_shadow.Delete();
-    m_shadowPixels = {};
 }
 
 void VectorPainterGdi::EndRender(bool synchronous) {
     m_clip.Delete();
     SelectClip(nullptr);
-    ::GdiFlush(); // whose memory is read from now on
-    m_settled = true;
     const UINT message = VectorCanvasCtrl::GetUpdatePaintingMessage();
     if (m_window == nullptr) {
         return; // posted to no window it would land in the queue of this thread
@@ -153,15 +132,11 @@ unsigned int VectorPainterGdi::GetObjectId(int x, int y) const {
     if (x < 0 || y < 0 || x >= m_viewport.cx || y >= m_viewport.cy) {
         return 0;
     }
-    if (m_settled) {
-        return settledId(m_shadowPixels, x, y);
-    }
     const COLORREF color = ::GetPixel(m_shadowDevice.get(), x, y);
     return color != CLR_INVALID ? color : 0;
 }
 
 void VectorPainterGdi::SetClipRegion(const RECT* rect) {
-    m_settled = false;
     m_clip.Delete();
     if (rect != nullptr) {
         m_clip.Create(rect);

@@ -20,8 +20,9 @@ class DrawContextGdiText;
 /// 0, into the shadow with hard edges, opaque, in the id as a colour: outlines only, so that what is inside a filled
 /// shape is not found. Coordinates are pixels; `offset` is added to each. Those that a call truncates lose their
 /// fractions after that. NaN counts as 0, and what lies further than 2^20 pixels away as if it lay there: GDI+ takes
-/// minutes over longer ways, and seconds over long dashed or transparent outlines. A missing argument, or a context of
-/// a class that a call has no use for, draws nothing. What GDI+ says of a drawing is not looked at.
+/// minutes over longer ways, and seconds over long dashed or transparent outlines. Of lines, which keep their course,
+/// the part beyond is left out. A missing argument, or a context of a class that a call has no use for, draws nothing.
+/// What GDI+ says of a drawing is not looked at.
 class ORTIN_CONTROLS_API GdiplusPainter {
 public:
     void SetDestinationDevice(HDC device) { m_destination = device; }

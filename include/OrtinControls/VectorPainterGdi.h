@@ -20,7 +20,7 @@ namespace VectorCanvas {
 /// the longest list and stay, so that a frame like those before it takes no memory.
 ///
 /// Coordinates of lines, pixels, frames and text saturate at the ends of 32 bits, those of FillRects and of all that
-/// goes to the GdiplusPainter 2^20 pixels from the origin.
+/// goes to the GdiplusPainter 2^20 pixels from the origin; single lines that come from beyond keep their course.
 class ORTIN_CONTROLS_API VectorPainterGdi : public IVectorPainter {
 public:
     VectorPainterGdi();
@@ -101,8 +101,6 @@ private:
     CompatibleBitmapOwner m_shadow;
     OwnedDevice m_source;
     OwnedDevice m_shadowDevice;
-    BITMAP m_shadowPixels{}; ///< of the shadow's section
-    bool m_settled = false;  ///< the frame has ended, and no clip hides a part of it
     CSize m_viewport;
     HWND m_window = nullptr;
     int m_shadowMode = 0;

@@ -2,6 +2,8 @@
 
 #include <cmath>
 #include <limits>
+#include <memory>
+#include <string>
 
 #include "support/ImportPatch.h"
 #include "support/Resources.h"
@@ -38,8 +40,29 @@ Gdiplus::GpStatus WINGDIPAPI refuseColor(Gdiplus::GpPen*, Gdiplus::ARGB*) {
     return Gdiplus::OutOfMemory;
 }
 
+Gdiplus::GpStatus WINGDIPAPI refuseBrushColor(Gdiplus::GpSolidFill*, Gdiplus::ARGB*) {
+    return Gdiplus::OutOfMemory;
+}
+
 HMODULE controls() {
     return ::GetModuleHandleW(L"OrtinControls.dll");
+}
+
+std::string letGo;
+
+BOOL WINAPI noteObject(HGDIOBJ object) {
+    letGo += ::GetObjectType(object) == OBJ_PEN ? "pen; " : "brush; ";
+    return ::DeleteObject(object);
+}
+
+Gdiplus::GpStatus WINGDIPAPI noteGdiPlusPen(Gdiplus::GpPen* pen) {
+    letGo += "GDI+ pen; ";
+    return Gdiplus::DllExports::GdipDeletePen(pen);
+}
+
+Gdiplus::GpStatus WINGDIPAPI noteGdiPlusBrush(Gdiplus::GpBrush* brush) {
+    letGo += "GDI+ brush; ";
+    return Gdiplus::DllExports::GdipDeleteBrush(brush);
 }
 
 class LineContext : public testing::Test {
@@ -323,6 +346,29 @@ TEST_F(FillContext, GetsHollowInOutlineAndFill) {
     EXPECT_EQ(0x7FFF0000U, colorOf(shape.GetPen()));
     EXPECT_EQ(0x7F0000FFU, colorOf(shape.GetGdiplusBrush()));
     EXPECT_EQ(kBlue, colorOf(shape.GetHBrush()));
+}
+
+TEST_F(FillContext, GetsHollowBlackInsideWhenItsColourCannotBeRead) {
+    shape.ChangeColors(kRed, kBlue);
+    {
+        const support::ImportPatch patch(controls(), "gdiplus.dll", "GdipGetSolidFillColor", &refuseBrushColor);
+        shape.SetHollow(0.5F);
+    }
+    EXPECT_EQ(0x7FFF0000U, colorOf(shape.GetPen()));
+    EXPECT_EQ(0x7F000000U, colorOf(shape.GetGdiplusBrush()));
+    EXPECT_EQ(Gdiplus::OutOfMemory, shape.GetGdiplusBrush().GetLastStatus());
+}
+
+TEST(Contexts, EndFromTheGdiPlusBrushToTheGdiPen) {
+    auto shape = std::make_unique<DrawContextGdiLineAndFill>();
+    shape->GetHGDIOBJ();
+    shape->GetHBrush();
+    const support::ImportPatch objects(::GetModuleHandleW(L"OrtinMfc.dll"), "gdi32.dll", "DeleteObject", &noteObject);
+    const support::ImportPatch pens(controls(), "gdiplus.dll", "GdipDeletePen", &noteGdiPlusPen);
+    const support::ImportPatch brushes(controls(), "gdiplus.dll", "GdipDeleteBrush", &noteGdiPlusBrush);
+    letGo.clear();
+    shape.reset();
+    EXPECT_EQ("GDI+ brush; brush; GDI+ pen; pen; ", letGo);
 }
 
 TEST_F(FillContext, LetsBothGdiObjectsGo) {

@@ -325,6 +325,24 @@ TEST_F(GdiPlusPainter, SaturatesWhatGdiPlusWouldNotComeBackFrom) {
               }));
 }
 
+TEST_F(GdiPlusPainter, LeadsLinesFromFarAwayThroughThePictureWhereTheyPass) {
+    // Down by one pixel in three, through (0, 20).
+    const Point from{-3'000'000, -999'980};
+    const Point to{3'000'000, 1'000'020};
+    const auto expectPassed = [&] {
+        EXPECT_EQ(kId, painter.GetObjectId(0, 20));
+        EXPECT_EQ(kId, painter.GetObjectId(30, 30));
+        EXPECT_EQ(1U, shadow().count(kId, {30, 0, 31, kHeight}));
+        begin();
+    };
+    painter.DrawLine(from, to, &line, {0, 0});
+    expectPassed();
+    painter.DrawLine({-3'000'000, -1'000'000}, {3'000'000, 1'000'000}, &line, {0, 20});
+    expectPassed();
+    painter.DrawOrdinaryLine(from, to, &line);
+    expectPassed();
+}
+
 class OwnDevices : public PainterFixture {
 protected:
     OwnDevices() {
@@ -371,6 +389,20 @@ TEST_F(OwnDevices, GoOverWithACopyAndWithAMove) {
     third = copy;
     third.DrawLine({5, 20}, {40, 20}, &line, {0, 0});
     EXPECT_NE(kWhite, device.pixels().at(20, 20));
+}
+
+TEST_F(OwnDevices, GetAnArcAndTextInTheShadowAlsoWithoutAPicture) {
+    gdiPlus.SetDestinationDevice(nullptr);
+    {
+        const Recorder recorder;
+        gdiPlus.DrawArc({30, 20}, 15, 10, 0, 180, &line, {0, 0});
+    }
+    EXPECT_EQ("pen FF563412 1 0; interpolation 5; smoothing 3; arc 15,10 30x20 0 180; ", calls);
+    VectorCanvas::DrawContextGdiText text;
+    text.SetId(kOtherId);
+    gdiPlus.DrawTextW({5, 5}, L"Kurs", text, {0, 0});
+    EXPECT_NE(0U, ids.pixels().count(kOtherId));
+    EXPECT_EQ(kWhite, device.pixels().onlyColour({0, 0, 60, 40}));
 }
 
 TEST_F(OwnDevices, ThatAreMissingAreNotDrawnOn) {

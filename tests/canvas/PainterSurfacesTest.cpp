@@ -1,5 +1,6 @@
 #include "PainterFixture.h"
 
+#include <algorithm>
 #include <string>
 
 #include "support/ImportPatch.h"
@@ -26,6 +27,66 @@ HBITMAP WINAPI refuseSection(HDC, const BITMAPINFO*, UINT, void**, HANDLE, DWORD
 
 COLORREF WINAPI refusePixel(HDC, int, int) {
     return CLR_INVALID;
+}
+
+std::string calls;
+/// In the order in which they were made; calls name them by it.
+std::vector<const void*> made;
+
+void note(const std::string& call) {
+    calls += call + "; ";
+}
+std::string numberOf(const void* handle) {
+    const auto found = std::find(made.begin(), made.end(), handle);
+    return found != made.end() ? std::to_string(found - made.begin()) : "?";
+}
+template <typename Handle>
+Handle noteMade(const std::string& call, Handle handle) {
+    made.push_back(handle);
+    note(call + " gives " + numberOf(handle));
+    return handle;
+}
+
+HDC WINAPI noteGetDC(HWND window) {
+    return noteMade(window == nullptr ? "GetDC screen" : "GetDC window", ::GetDC(window));
+}
+int WINAPI noteReleaseDC(HWND window, HDC device) {
+    note("ReleaseDC " + numberOf(device));
+    return ::ReleaseDC(window, device);
+}
+HBITMAP WINAPI noteBitmap(HDC device, int width, int height) {
+    return noteMade("CreateCompatibleBitmap " + numberOf(device) + ' ' + std::to_string(width) + 'x' +
+                        std::to_string(height),
+                    ::CreateCompatibleBitmap(device, width, height));
+}
+HDC WINAPI noteDevice(HDC like) {
+    return noteMade(like == nullptr ? "CreateCompatibleDC" : "CreateCompatibleDC like another",
+                    ::CreateCompatibleDC(like));
+}
+HBITMAP WINAPI noteSection(HDC device, const BITMAPINFO* format, UINT usage, void** bits, HANDLE section,
+                           DWORD offset) {
+    const BITMAPINFOHEADER& header = format->bmiHeader;
+    return noteMade("CreateDIBSection " + numberOf(device) + ' ' + std::to_string(header.biSize) + ' ' +
+                        std::to_string(header.biWidth) + 'x' + std::to_string(header.biHeight) + 'x' +
+                        std::to_string(header.biPlanes) + 'x' + std::to_string(header.biBitCount),
+                    ::CreateDIBSection(device, format, usage, bits, section, offset));
+}
+HGDIOBJ WINAPI noteSelection(HDC device, HGDIOBJ object) {
+    note("SelectObject " + numberOf(device) + ' ' + numberOf(object));
+    return ::SelectObject(device, object);
+}
+BOOL WINAPI notePatBlt(HDC device, int x, int y, int width, int height, DWORD operation) {
+    note("PatBlt " + numberOf(device) + ' ' + std::to_string(x) + ',' + std::to_string(y) + ' ' +
+         std::to_string(width) + 'x' + std::to_string(height) + (operation == BLACKNESS ? " black" : ""));
+    return ::PatBlt(device, x, y, width, height, operation);
+}
+BOOL WINAPI noteDeleteDC(HDC device) {
+    note("DeleteDC " + numberOf(device));
+    return ::DeleteDC(device);
+}
+BOOL WINAPI noteDeleteObject(HGDIOBJ object) {
+    note("DeleteObject " + numberOf(object));
+    return ::DeleteObject(object);
 }
 
 HMODULE foundation() {
@@ -105,16 +166,17 @@ TEST_F(Surfaces, GiveTheSameObjectsAfterTheFrameAsInIt) {
     }
 }
 
-TEST_F(Surfaces, GiveTheirObjectsAfterTheFrameWithoutTheSystem) {
+TEST_F(Surfaces, GiveNoObjectWhereTheSystemHasNoPixel) {
     begin();
     drawDiagonal();
-    painter.EndRender(false);
-    const support::ImportPatch patch(controls(), "gdi32.dll", "GetPixel", &refusePixel);
-    EXPECT_EQ(kId, painter.GetObjectId(5, 5));
-    EXPECT_EQ(0U, painter.GetObjectId(5, 6));
-    begin();
-    drawDiagonal();
-    EXPECT_EQ(0U, painter.GetObjectId(5, 5)) << "which is asked while something may be drawn";
+    for (const bool ended : {false, true}) {
+        if (ended) {
+            painter.EndRender(false);
+        }
+        EXPECT_EQ(kId, painter.GetObjectId(5, 5));
+        const support::ImportPatch patch(controls(), "gdi32.dll", "GetPixel", &refusePixel);
+        EXPECT_EQ(0U, painter.GetObjectId(5, 5));
+    }
 }
 
 TEST_F(Surfaces, GiveTheObjectsWithinAClipThatIsSetAfterTheFrame) {
@@ -159,6 +221,52 @@ TEST_F(Surfaces, HaveAShadowForTheModeOneOnly) {
     drawDiagonal();
     painter.DrawRect({1, 1, 10, 10}, kRed, kBlue, kId);
     EXPECT_EQ(std::set<unsigned int>{0}, idsInShadow());
+}
+
+TEST_F(Surfaces, AreMadeAndLetGoInOrder) {
+    const support::ImportPatch patches[] = {
+        {controls(), "user32.dll", "GetDC", &noteGetDC},
+        {controls(), "user32.dll", "ReleaseDC", &noteReleaseDC},
+        {foundation(), "gdi32.dll", "CreateCompatibleBitmap", &noteBitmap},
+        {controls(), "gdi32.dll", "CreateCompatibleDC", &noteDevice},
+        {foundation(), "gdi32.dll", "CreateDIBSection", &noteSection},
+        {controls(), "gdi32.dll", "SelectObject", &noteSelection},
+        {controls(), "gdi32.dll", "PatBlt", &notePatBlt},
+        {controls(), "gdi32.dll", "DeleteDC", &noteDeleteDC},
+        {controls(), "gdi32.dll", "DeleteObject", &noteDeleteObject},
+    };
+    made.clear();
+    calls.clear();
+    painter.InitWindowIdAndViewPort(nullptr, CSize(30, 20));
+    EXPECT_TRUE(painter.InitRender(CSize(30, 20)));
+    EXPECT_EQ("GetDC screen gives 0; CreateCompatibleBitmap 0 30x20 gives 1; CreateCompatibleDC gives 2; "
+              "SelectObject 2 1; CreateDIBSection 0 40 30x20x1x24 gives 3; CreateCompatibleDC gives 4; "
+              "SelectObject 4 3; PatBlt 4 0,0 30x20 black; ReleaseDC 0; PatBlt 4 0,0 30x20 black; ",
+              calls);
+    calls.clear();
+    EXPECT_TRUE(painter.InitRender(CSize(30, 20)));
+    EXPECT_EQ("PatBlt 4 0,0 30x20 black; ", calls);
+    calls.clear();
+    painter.Release();
+    EXPECT_EQ("DeleteDC 2; DeleteDC 4; DeleteObject 1; DeleteObject 3; ", calls);
+}
+
+TEST_F(Surfaces, WithoutAShadowAfterOnesThatHadItLeaveDevicesOfOthersAlone) {
+    begin();
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(CDC::FromHandle(painter.GetSource()), kWidth, kHeight);
+    painter.EnableShadows(0);
+    begin(kWidth + 1, kHeight);
+    // So many that the system gives out the handle of the shadow that was there again.
+    for (int number = 1; number <= 600; ++number) {
+        CDC others;
+        others.CreateCompatibleDC(nullptr);
+        const HGDIOBJ before = ::SelectObject(others, bitmap);
+        others.FillSolidRect(0, 0, kWidth, kHeight, kWhite);
+        painter.DrawOrdinaryLine({0, 10}, {40, 10}, &line);
+        ASSERT_EQ(kWhite, others.GetPixel(20, 10)) << number;
+        ::SelectObject(others, before);
+    }
 }
 
 TEST_F(Surfaces, AreGoneAfterReleaseAndComeBackWithTheNextFrame) {

@@ -12,11 +12,15 @@ namespace VectorCanvas {
 void PrintTo(const DeviceRect& rect, std::ostream* out) {
     *out << rect.left << ' ' << rect.top << ' ' << rect.right << ' ' << rect.bottom;
 }
+void PrintTo(const Segment& line, std::ostream* out) {
+    *out << line.from.x << ' ' << line.from.y << ' ' << line.to.x << ' ' << line.to.y;
+}
 } // namespace VectorCanvas
 
 namespace {
 
 using VectorCanvas::DeviceRect;
+using VectorCanvas::Segment;
 
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 constexpr float kNotANumber = std::numeric_limits<float>::quiet_NaN();
@@ -110,6 +114,70 @@ TEST(ShapePoints, StayWithinReach) {
     EXPECT_EQ(10, VectorCanvas::toPixelWithinReach(10.9F));
     EXPECT_EQ(0, VectorCanvas::toPixelWithinReach(-0.9F));
     EXPECT_EQ(-1048576, VectorCanvas::toPixelWithinReach(-kInfinity));
+}
+
+TEST(Lines, WithinReachStayAsTheyAre) {
+    const Segment line{{-1048576.0F, 0.1F}, {16.7F, 1048576.0F}};
+    EXPECT_EQ(line, VectorCanvas::segmentWithinReach(line));
+}
+
+TEST(Lines, FromFarAwayKeepTheirCourse) {
+    struct Case {
+        const char* what;
+        Segment line;
+        Segment drawn;
+    };
+    constexpr float kEnd = VectorCanvas::kReach;
+    const Case cases[] = {
+        {"one end beyond the right", {{0, 100}, {4 * kEnd, 500}}, {{0, 100}, {kEnd, 200}}},
+        {"one end beyond the left", {{-4 * kEnd, 500}, {0, 100}}, {{-kEnd, 200}, {0, 100}}},
+        {"both ends, upwards", {{-300, 3 * kEnd}, {300, -3 * kEnd}}, {{-100, kEnd}, {100, -kEnd}}},
+        {"past a corner", {{-3 * kEnd, 0}, {kEnd, 4 * kEnd}}, {{-3 * kEnd, 0}, {kEnd, 4 * kEnd}}},
+        {"level", {{-3e9F, 5}, {3e9F, 5}}, {{-kEnd, 5}, {kEnd, 5}}},
+        {"the ends of all floats",
+         {{-std::numeric_limits<float>::max(), 7}, {std::numeric_limits<float>::max(), 7}},
+         {{-kEnd, 7}, {kEnd, 7}}},
+        {"nowhere near", {{2 * kEnd, 5}, {3 * kEnd, 9}}, {{kEnd, 5}, {kEnd, 9}}},
+        {"level and nowhere near", {{0, 3 * kEnd}, {9 * kEnd, 3 * kEnd}}, {{0, kEnd}, {kEnd, kEnd}}},
+        {"a point far away", {{2 * kEnd, 5}, {2 * kEnd, 5}}, {{kEnd, 5}, {kEnd, 5}}},
+        {"an endless one", {{-kInfinity, 5}, {kInfinity, kEnd * 2}}, {{-kEnd, 5}, {kEnd, kEnd}}},
+        {"no number", {{kNotANumber, 2 * kEnd}, {3, 5}}, {{0, kEnd}, {3, 5}}},
+    };
+    for (const Case& c : cases) {
+        const Segment drawn = VectorCanvas::segmentWithinReach(c.line);
+        EXPECT_EQ(VectorCanvas::withinReach(c.drawn.from), drawn.from) << c.what;
+        EXPECT_EQ(VectorCanvas::withinReach(c.drawn.to), drawn.to) << c.what;
+    }
+}
+
+TEST(Lines, FromFarAwayPassNearPointsWhereTheyShould) {
+    std::mt19937 random(20'261'122);
+    std::uniform_real_distribution<double> near(-2000, 2000);
+    std::uniform_real_distribution<double> far(1e3, 1e8);
+    std::uniform_real_distribution<double> direction(0, 6.283185307179586);
+    for (int round = 0; round < 100'000; ++round) {
+        const double x = near(random);
+        const double y = near(random);
+        const double angle = direction(random);
+        const double before = far(random);
+        const double after = far(random);
+        const auto at = [&](double distance) {
+            return OrtinPoint<float>{static_cast<float>(x + distance * std::cos(angle)),
+                                     static_cast<float>(y + distance * std::sin(angle))};
+        };
+        const auto drawn = VectorCanvas::segmentWithinReach({at(-before), at(after)});
+        ASSERT_EQ(drawn.from, VectorCanvas::withinReach(drawn.from));
+        ASSERT_EQ(drawn.to, VectorCanvas::withinReach(drawn.to));
+        const double width = static_cast<double>(drawn.to.x) - drawn.from.x;
+        const double height = static_cast<double>(drawn.to.y) - drawn.from.y;
+        const double distance =
+            std::abs((x - drawn.from.x) * height - (y - drawn.from.y) * width) / std::hypot(width, height);
+        // A float that lies 10^8 away is good for 8 pixels, 4 on each side.
+        ASSERT_LE(distance, 6.0) << round;
+        if (std::max(before, after) < 1e6) {
+            ASSERT_LE(distance, 0.1) << round;
+        }
+    }
 }
 
 TEST(Rectangles, ByEdgesTruncateEachEdgeWhereItLies) {

@@ -67,7 +67,14 @@ public:
         if (handle == nullptr) {
             return false;
         }
-        m_permanent[handle] = &object;
+        if (m_spare) {
+            m_spare.key() = handle;
+            m_spare.mapped() = &object;
+            const auto inserted = m_permanent.insert(std::move(m_spare));
+            inserted.position->second = &object;
+        } else {
+            m_permanent[handle] = &object;
+        }
         Traits::setHandle(object, handle);
         return true;
     }
@@ -84,7 +91,7 @@ public:
     void forget(const Object& object) {
         const auto found = m_permanent.find(Traits::handleOf(object));
         if (found != m_permanent.end() && found->second == &object) {
-            m_permanent.erase(found);
+            m_spare = m_permanent.extract(found);
         }
     }
 
@@ -103,6 +110,8 @@ private:
         }
     }
 
-    std::unordered_map<Handle, Object*> m_permanent;
+    using Permanent = std::unordered_map<Handle, Object*>;
+    Permanent m_permanent;
+    typename Permanent::node_type m_spare; ///< of the last one parted, so that attaching in turns takes no memory
     std::unordered_map<Handle, std::unique_ptr<Object>> m_temporary;
 };
