@@ -325,6 +325,26 @@ TEST_F(GdiPlusPainter, SaturatesWhatGdiPlusWouldNotComeBackFrom) {
               }));
 }
 
+TEST_F(GdiPlusPainter, ComesBackFromAnglesAndWidthsThatAreNone) {
+    for (const float value : {std::nanf(""), kInfinity, -kInfinity, 1e38F, -3e9F}) {
+        painter.DrawArc({30, 20}, 15, 10, value, 90, &line, {0, 0});
+        painter.DrawArc({30, 20}, 15, 10, 0, value, &line, {0, 0});
+    }
+    LOGPEN description{PS_SOLID, {std::numeric_limits<LONG>::max(), 0}, kRed};
+    const HPEN pen = ::CreatePenIndirect(&description);
+    shape.UpdateContext(pen);
+    ::DeleteObject(pen);
+    const Point points[] = {{5, 5}, {40, 5}, {40, 30}};
+    painter.DrawLine(points[0], points[2], &shape, {0, 0});
+    painter.DrawOrdinaryLine(points[0], points[2], &shape);
+    painter.DrawArc({30, 20}, 15, 10, 0, 90, &shape, {0, 0});
+    painter.DrawPolygon(points, 3, &shape, {0, 0});
+    painter.DrawEllipse(points[0], points[2], &shape, {0, 0});
+    for (const unsigned int id : idsInShadow()) {
+        EXPECT_TRUE(id == 0 || id == kId) << std::hex << id;
+    }
+}
+
 TEST_F(GdiPlusPainter, LeadsLinesFromFarAwayThroughThePictureWhereTheyPass) {
     // Down by one pixel in three, through (0, 20).
     const Point from{-3'000'000, -999'980};
