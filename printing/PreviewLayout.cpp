@@ -9,6 +9,9 @@ namespace PreviewLayout {
 
 namespace {
 
+/// A page this long that begins in the view ends within the range of int.
+constexpr int kMostExtent = 1 << 30;
+
 constexpr double kShadowShare = 0.02;
 constexpr int kLeastShadow = 2;
 constexpr int kMostShadow = 4;
@@ -28,7 +31,7 @@ std::int64_t pixelsOf(int position) {
 } // namespace
 
 int scaled(int extent, double scale) {
-    return truncateToInt(extent * scale);
+    return std::min(truncateToInt(extent * scale), kMostExtent);
 }
 
 int totalHeight(int pageHeight, int pageCount) {

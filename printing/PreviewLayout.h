@@ -22,7 +22,7 @@ struct Box {
     bool operator==(const Box&) const = default;
 };
 
-/// An extent of a page at a scale, truncated.
+/// An extent of a page at a scale, truncated; 2^30 at most.
 int scaled(int extent, double scale);
 int totalHeight(int pageHeight, int pageCount);
 int totalWidth(int pageWidth, int leftMargin);

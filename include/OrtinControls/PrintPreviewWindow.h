@@ -42,7 +42,8 @@ public:
     /// Without a window, or before `Init`, nothing happens.
     void Update(HDC printerDC);
     /// Makes a page that is wider at its own size than the client area without the margins exactly as wide as that. Any
-    /// other page keeps its scale.
+    /// other page keeps its scale. The margins are those at the scale of before: call it first, for a page that was
+    /// made smaller than the window has wide ones and stays as it is.
     void ScaleToAvailableArea();
 
 protected:
@@ -69,7 +70,7 @@ protected:
     /// Places in the column, counted from 0; -1 for none.
     void FindVisiblePages(int& first, int& last);
     void HandleScroll(unsigned int code, unsigned int position, int bar, int extent);
-    /// Pixels; -1 before `Init`.
+    /// Pixels: the pages, 15 between them, 5 above and below; -1 before `Init`.
     int CalculateTotalHeight();
     void ShowButtons(int show);
 

@@ -20,7 +20,7 @@ std::string visible(int pageHeight, int pageCount, int clientHeight, int positio
 TEST(PreviewLayout, TruncatesScaledExtents) {
     EXPECT_EQ(99, PreviewLayout::scaled(199, 0.5));
     EXPECT_EQ(0, PreviewLayout::scaled(99, 0.01));
-    EXPECT_EQ(kMost, PreviewLayout::scaled(6822, 1e9));
+    EXPECT_EQ(1 << 30, PreviewLayout::scaled(6822, 1e9));
 }
 
 TEST(PreviewLayout, TheTotalHeightCountsGapsBetweenPagesAndBothMargins) {

@@ -67,6 +67,7 @@ public:
     using PrintPreviewWindow::ChangePreviewAreaScale;
     using PrintPreviewWindow::Draw;
     using PrintPreviewWindow::FindVisiblePages;
+    using PrintPreviewWindow::HandleScroll;
     using PrintPreviewWindow::UpdateHorizontalScroll;
     using PrintPreviewWindow::UpdateVerticalScroll;
 };

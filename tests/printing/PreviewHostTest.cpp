@@ -14,6 +14,8 @@ namespace {
 class PreviewHost : public PreviewFixture {};
 
 bool S_deletedWhileSelected;
+constexpr COLORREF kRightHalf = RGB(9, 9, 9);
+
 BOOL(WINAPI* S_deleteObject)(HGDIOBJ);
 
 BOOL WINAPI watchedDelete(HGDIOBJ object) {
@@ -168,6 +170,44 @@ TEST_F(PreviewHost, WithoutMemoryForAPageTriesAgainAtTheNextPaint) {
     }
     pixels();
     EXPECT_EQ("1 2 ", document.takeDrawn());
+}
+
+TEST_F(PreviewHost, AtTheSmallestScaleEachPageIsASpeck) {
+    update();
+    hideButtons();
+    document.takeDrawn();
+    scale(-0.99);
+    scale(-0.001);
+    EXPECT_EQ("3 ", document.takeDrawn());
+    const support::Pixels picture = pixels();
+    const int left = leftMargin(2);
+    for (int page = 1; page <= 3; ++page) {
+        const int top = 5 + (page - 1) * (3 + 15);
+        EXPECT_EQ(ColouredPages::colourOf(page), picture.onlyColour({left, top, left + 2, top + 3}));
+        EXPECT_EQ(kShadow, picture.onlyColour({left + 2, top + 2, left + 4, top + 5}));
+        EXPECT_EQ(kScene, picture.onlyColour({0, top + 5, client().cx, top + 18}));
+    }
+}
+
+TEST_F(PreviewHost, AtAHugeScaleShowsThePieceInView) {
+    document.onPrint = [](CDC* dc, PrintInfo*) { dc->FillSolidRect(100, 0, 100, 300, kRightHalf); };
+    update();
+    hideButtons();
+    int reached = 1;
+    for (const int huge : {50, 1000, 10'000}) {
+        scale(huge - reached);
+        reached = huge;
+        preview.HandleScroll(SB_TOP, 0, SB_HORZ, 0);
+        support::Pixels picture = pixels();
+        EXPECT_EQ(kScene, picture.onlyColour({0, 0, 5, client().cy})) << huge;
+        EXPECT_EQ(ColouredPages::colourOf(1), picture.onlyColour({5, 5, client().cx, client().cy})) << huge;
+        const auto middle = static_cast<unsigned int>(5 + 100 * huge);
+        preview.HandleScroll(SB_THUMBPOSITION, middle / 5 - 20, SB_HORZ, 0);
+        picture = pixels();
+        // Between them the colours blend.
+        EXPECT_EQ(ColouredPages::colourOf(1), picture.at(20, 100)) << huge;
+        EXPECT_EQ(kRightHalf, picture.at(250, 100)) << huge;
+    }
 }
 
 TEST_F(PreviewHost, NoBitmapIsLargerThanThePageAtAnyScale) {

@@ -64,6 +64,22 @@ TEST_F(PreviewInput, TheWheelCountsWholeNotches) {
     EXPECT_EQ(0, afterTurn(120));
 }
 
+TEST_F(PreviewInput, TheWheelThatScrollsRepaintsAndGoesOnToTheParent) {
+    int passedOn = 0;
+    window.onMessage = [&](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+        passedOn += message == WM_MOUSEWHEEL ? 1 : 0;
+        return std::nullopt;
+    };
+    pixels();
+    preview.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -120), 0);
+    EXPECT_TRUE(preview.GetUpdateRect(nullptr));
+    EXPECT_EQ(1, passedOn);
+    document.pages = 1;
+    update();
+    preview.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -120), 0);
+    EXPECT_EQ(1, passedOn) << "but not where there is nothing to scroll";
+}
+
 TEST_F(PreviewInput, TheWheelOnAnEmptyBarMovesNothing) {
     document.pages = 1;
     update();

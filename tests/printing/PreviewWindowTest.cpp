@@ -15,6 +15,15 @@ protected:
     ReachablePreview m_preview;
 };
 
+UINT_PTR S_timer;
+UINT S_delay;
+
+UINT_PTR WINAPI notedTimer(HWND, UINT_PTR id, UINT delay, TIMERPROC) {
+    S_timer = id;
+    S_delay = delay;
+    return id;
+}
+
 HWND WINAPI noWindow(DWORD, LPCWSTR, LPCWSTR, DWORD, int, int, int, int, HWND, HMENU, HINSTANCE, void*) {
     return nullptr;
 }
@@ -44,6 +53,22 @@ TEST_F(BarePreview, GivesNothingWhereTheSystemMakesNoWindow) {
     EXPECT_EQ(0, m_preview.Create(500, &m_window));
     EXPECT_EQ(nullptr, m_preview.GetSafeHwnd());
     EXPECT_EQ(nullptr, m_window.GetDlgItem(500)) << "the placeholder is gone by then";
+}
+
+TEST_F(BarePreview, LooksForTheMouseOnceFiveSecondsAfterItsCreation) {
+    CStatic placeholder;
+    placeholder.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 80, 80), &m_window, 500);
+    {
+        const support::ImportPatch patch(::GetModuleHandleW(L"OrtinMfc.dll"), "user32.dll", "SetTimer", notedTimer);
+        ASSERT_NE(0, m_preview.Create(500, &m_window));
+        EXPECT_EQ(1U, S_timer);
+        EXPECT_EQ(5000U, S_delay);
+    }
+    ::SetTimer(m_preview, 1, 5000, nullptr);
+    m_preview.SendMessage(WM_TIMER, 2);
+    EXPECT_TRUE(m_preview.GetDlgItem(1)->IsWindowVisible()) << "another timer";
+    m_preview.SendMessage(WM_TIMER, 1);
+    EXPECT_FALSE(::KillTimer(m_preview, 1));
 }
 
 TEST_F(BarePreview, KnowsItsClass) {
@@ -247,6 +272,33 @@ TEST_F(Preview, PutsAnEnlargedPageWhereItWouldStandAtItsOwnSize) {
     const support::Pixels picture = pixels();
     EXPECT_EQ(kScene, picture.onlyColour({0, 0, left, client().cy}));
     EXPECT_EQ(ColouredPages::colourOf(1), picture.onlyColour({left, 5, client().cx, 395})) << "the scale stays";
+}
+
+TEST_F(Preview, KeepsTheScaleOfAPageWhoseOwnSizeIsExactlyWhatIsThere) {
+    document.pages = 1;
+    update();
+    scale(0.5);
+    const int width = client().cx - 10;
+    device.setSize(width, 300);
+    document.area = CRect(0, 0, width, 300);
+    update();
+    ASSERT_EQ(width + 10, client().cx);
+    preview.ScaleToAvailableArea();
+    EXPECT_EQ(460, preview.CalculateTotalHeight());
+    device.setSize(width + 1, 300);
+    update();
+    preview.ScaleToAvailableArea();
+    EXPECT_NEAR(300.0 * width / (width + 1) + 10, preview.CalculateTotalHeight(), 1);
+}
+
+TEST_F(Preview, APageThatWasMadeSmallerStaysSo) {
+    device.setSize(1000, 1000);
+    update();
+    preview.ScaleToAvailableArea();
+    scale(-0.1);
+    const int height = preview.CalculateTotalHeight();
+    preview.ScaleToAvailableArea(); // its margins are wide, and taken as they are
+    EXPECT_NEAR(height, preview.CalculateTotalHeight(), 3 * 2);
 }
 
 TEST_F(Preview, IsCentredAnewWhenItsSizeChanges) {

@@ -19,6 +19,14 @@ public:
     using TableCtrlPrintable::m_marginLeft;
     using TableCtrlPrintable::m_marginRight;
     using TableCtrlPrintable::m_marginTop;
+
+    bool erased = false;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        erased = erased || message == WM_ERASEBKGND;
+        return TableCtrlPrintable::WindowProc(message, wParam, lParam);
+    }
 };
 
 class TitledHandler : public RecordingHandler {

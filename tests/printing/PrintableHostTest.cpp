@@ -28,6 +28,12 @@ protected:
                                              "DrawPrintRequestedItems", "DrawItem"};
 };
 
+int S_contrast;
+
+void noteContrast(CXTPImageManager*, CDC&, const CRect&, int contrast) {
+    S_contrast = contrast;
+}
+
 /// What is on the page after a run in black and white.
 class BlackWhite : public PrintingHost {
 protected:
@@ -163,6 +169,18 @@ TEST_F(BlackWhite, KeepsOnePictureForAllPagesOfOneSize) {
     table.m_marginTop = 20;
     print(&dc);
     EXPECT_EQ(2, noted.count);
+}
+
+TEST_F(BlackWhite, ClampsTheContrastToAByte) {
+    addRows(1);
+    begin(&dc);
+    const support::ImportPatch patch(::GetModuleHandleW(L"OrtinControls.dll"), "OrtinXtp.dll",
+                                     "_ZN16CXTPImageManager16BlackWhiteBitmapER3CDCRK5CRecti", noteContrast);
+    for (const auto& [asked, used] : {std::pair(-1, 0), std::pair(0, 0), std::pair(255, 255), std::pair(256, 255)}) {
+        table.m_blackWhiteContrast = asked;
+        printPage(&dc, 1);
+        EXPECT_EQ(used, S_contrast);
+    }
 }
 
 TEST_F(BlackWhite, WithoutMemoryForThePicturePrintsTheRows) {

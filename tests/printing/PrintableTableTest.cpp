@@ -128,6 +128,11 @@ TEST_F(PrintableTable, WithoutAHandlerOrWindowPrintsNothing) {
 
 TEST_F(PrintableTable, StandsInItsParentWindow) {
     EXPECT_EQ(&window, table.AssociatedWindow());
+    CStatic pane;
+    pane.Create(L"", WS_CHILD, CRect(0, 0, 80, 80), &window, 500);
+    TableCtrlPrintable inner;
+    inner.Create(78, &pane, false);
+    EXPECT_EQ(&pane, inner.AssociatedWindow()) << "not the dialog around it";
     EXPECT_FALSE(table.IsPrintAborted());
 }
 
@@ -254,6 +259,7 @@ TEST_F(PrintableTable, CountsTheRowsInViewFromTheTopWhileTheContentRuns) {
 TEST_F(PrintableTable, HasNoPagesForChoicesOfOthers) {
     SheetDevice device(kFiveRows);
     addRows(4);
+    EXPECT_EQ(1, begin(device.dc())) << "and none is left from before";
     context.CustomPrintOptionId(1);
     EXPECT_EQ(0, begin(device.dc(), PrintOptionCustom));
     EXPECT_EQ(0, begin(device.dc(), static_cast<EPrintOption>(3)));
@@ -289,11 +295,12 @@ TEST_F(PrintableTable, HasTheSameLayoutAtEveryResolution) {
 
 TEST_F(PrintableTable, BeginsAtTheWindowOriginOfTheContext) {
     SheetDevice device({96, 840, 240});
-    addRows(3);
+    addRows(10);
     device.dc()->SetWindowOrg(100, 50);
     begin(device.dc());
     EXPECT_EQ(CRect(100, 50, 520, 170), info.PrintAreaInObjectUnits());
-    EXPECT_EQ("DrawPrintRequestedItems(0,2,110,60,510,160,3)", printPage(device.dc(), 1, "DrawPrintRequestedItems"));
+    EXPECT_EQ("DrawPrintRequestedItems(0,2,110,60,510,160,10)", printPage(device.dc(), 1, "DrawPrintRequestedItems"));
+    EXPECT_EQ("0-2 3-6 7-9", rowsOfPages(device.dc())) << "the room is that of five rows wherever it begins";
 }
 
 TEST_F(PrintableTable, KeepsTheMarginsThatADerivedTableSets) {
@@ -306,6 +313,9 @@ TEST_F(PrintableTable, KeepsTheMarginsThatADerivedTableSets) {
     begin(device.dc());
     EXPECT_EQ("DrawPrintRequestedItems(0,2,70,5,470,185,3)", printPage(device.dc(), 1, "DrawPrintRequestedItems"));
     EXPECT_EQ("DrawItem(0,5,25) DrawItem(1,25,45) DrawItem(2,45,65)", printPage(device.dc(), 1));
+    addRows(9);
+    begin(device.dc());
+    EXPECT_EQ("0-6 7-11", rowsOfPages(device.dc())) << "180 pixels for rows";
 }
 
 TEST_F(PrintableTable, PutsEachRowUnderWhatTheOneBeforeTook) {
@@ -378,6 +388,7 @@ TEST_F(PrintableTable, RepaintsAllOfItselfAfterTheRun) {
     SheetDevice device(kFiveRows);
     addRows(10);
     begin(device.dc());
+    table.erased = false;
     table.OnEndPrinting(device.dc(), &info);
     CRect update;
     EXPECT_TRUE(table.GetUpdateRect(&update));
@@ -385,6 +396,10 @@ TEST_F(PrintableTable, RepaintsAllOfItselfAfterTheRun) {
     table.GetClientRect(&client);
     EXPECT_EQ(client, update);
     EXPECT_TRUE(::GetUpdateRect(::GetDlgItem(table, 11112), nullptr, FALSE));
+    PAINTSTRUCT paint{};
+    ::BeginPaint(table, &paint);
+    ::EndPaint(table, &paint);
+    EXPECT_TRUE(table.erased);
 }
 
 TEST_F(PrintableTable, DrawsItsRowsScaledOntoThePage) {
