@@ -30,6 +30,22 @@ constexpr int FieldWidth = 48;
 constexpr int CountRoom = 44;
 constexpr int ButtonPadding = 14;
 
+/// The command of a scroll bar that a key stands for.
+std::optional<int> scrollCommandOf(WPARAM key) {
+    switch (key) {
+    case VK_PRIOR:
+        return SB_PAGEUP;
+    case VK_NEXT:
+        return SB_PAGEDOWN;
+    case VK_HOME:
+        return SB_TOP;
+    case VK_END:
+        return SB_BOTTOM;
+    default:
+        return std::nullopt;
+    }
+}
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(PreviewDialog, PageRangeDialog)
@@ -173,7 +189,9 @@ void PreviewDialog::OnZoomOut() {
 }
 
 void PreviewDialog::OnFitWidth() {
-    m_pages.ScaleToAvailableArea();
+    const HDC device = m_context.PrinterDC();
+    m_pages.fitWidth(CSize(::GetDeviceCaps(device, HORZRES), ::GetDeviceCaps(device, VERTRES)),
+                     m_info.PagesToPrintCount());
 }
 
 /// Enter in a field of the range shows it; the button prints what the fields say.
@@ -190,6 +208,11 @@ BOOL PreviewDialog::PreTranslateMessage(MSG* message) {
         m_pages.SendMessage(WM_MOUSEWHEEL, message->wParam, message->lParam);
         return TRUE;
     }
+    if (message->message == WM_KEYDOWN && !hasFocusInRange())
+        if (const std::optional<int> command = scrollCommandOf(message->wParam)) {
+            m_pages.SendMessage(WM_VSCROLL, static_cast<WPARAM>(*command));
+            return TRUE;
+        }
     return PageRangeDialog::PreTranslateMessage(message);
 }
 

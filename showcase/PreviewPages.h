@@ -14,6 +14,8 @@ class PreviewPages : public PrintPreviewWindow {
 public:
     /// Adds to the scale.
     void zoom(double delta) { ChangePreviewAreaScale(delta); }
+    /// Makes pages of `sheet` pixels as wide as the window, whatever their scale was. `count` of them are shown.
+    void fitWidth(CSize sheet, int count);
     /// Of SB_VERT or SB_HORZ in its own units; without extent where all is in view.
     ScrollState scrollState(int bar);
     void scrollTo(int bar, int position);

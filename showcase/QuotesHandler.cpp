@@ -133,8 +133,8 @@ void QuotesHandler::PrepareDraw() {
     m_viewIsStale = false;
 }
 
-/// The visible cells of a row from the left.
-std::vector<CellSpan> QuotesHandler::cellsIn(int viewWidth) const {
+/// The visible cells of a row from the left. Columns that share the view end with it; locked ones may reach beyond.
+std::vector<CellSpan> QuotesHandler::cellsFor(int viewWidth) const {
     std::vector<CellSpan> cells;
     int left = 0;
     for (int position = 0; position < m_view->GetColumnCount(); ++position) {
@@ -146,8 +146,16 @@ std::vector<CellSpan> QuotesHandler::cellsIn(int viewWidth) const {
         left = right;
     }
     // The widths are laid out for the whole window, whose right edge is under the scroll bar; and pixels lost to
-    // rounding are missing at the end. Either way the last column ends with the view.
-    if (!cells.empty() && (cells.back().right > viewWidth || !m_view->AreColumnsLocked()))
+    // rounding are missing at the end.
+    if (!cells.empty() && !m_view->AreColumnsLocked())
+        cells.back().right = std::max(cells.back().left, viewWidth);
+    return cells;
+}
+
+/// The same, the last one cut where the view ends.
+std::vector<CellSpan> QuotesHandler::cellsIn(int viewWidth) const {
+    std::vector<CellSpan> cells = cellsFor(viewWidth);
+    if (!cells.empty() && cells.back().right > viewWidth)
         cells.back().right = std::max(cells.back().left, viewWidth);
     return cells;
 }

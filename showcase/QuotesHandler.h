@@ -151,6 +151,7 @@ private:
     static unsigned __int64 dataOf(std::size_t instrument) { return instrument + 1; }
     std::size_t instrumentAt(int row) const;
     std::optional<std::size_t> cellAt(int x) const;
+    std::vector<CellSpan> cellsFor(int viewWidth) const;
     std::vector<CellSpan> cellsIn(int viewWidth) const;
     std::wstring partText(EPrintOption option) const;
     std::vector<QuoteColumn> visibleColumns() const;

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "core/PolishFormat.h"
+#include "core/PrintRange.h"
 
 namespace Desk {
 
@@ -17,7 +18,7 @@ bool QuotesHandler::DrawPrintRequestedItems(int firstRow, int lastRow, const CRe
     PrintedPage page;
     page.sheet = info.PrintAreaInObjectUnits();
     page.width = rect.Width();
-    page.cells = cellsOnPaper(cellsIn(client.right), page.width, info.FitToPageArea());
+    page.cells = cellsOnPaper(cellsFor(client.right), page.width, info.FitToPageArea());
     // A page of a table whose rows are taller than the page may ask for rows that are not there.
     const int end = std::min(lastRow + 1, static_cast<int>(rows.size()));
     for (int row = std::max(firstRow, 0); row < end; ++row)
@@ -36,7 +37,9 @@ bool QuotesHandler::DrawPrintRequestedItems(int firstRow, int lastRow, const CRe
 std::wstring QuotesHandler::partText(EPrintOption option) const {
     switch (option) {
     case PrintOptionSelection:
-        return L"zaznaczone wiersze";
+        if (const auto rows = rowsOfSelection())
+            return rowsText(rows->first + 1, rows->end) + L" z " + std::to_wstring(m_book.size());
+        return {};
     case PrintOptionCustom:
         return L"widoczny obszar";
     default:

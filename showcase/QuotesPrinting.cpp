@@ -29,8 +29,7 @@ PrinterQuestion::PrinterQuestion(DeskFonts& fonts, QuotesTable& table, const Quo
       dialog(fonts, printers, *info, context, table, range) {
     table.OnPreparePrinting(info.get());
     if (const auto rows = quotes.rowsOfSelection(); rows && info->offers(PrintOptionSelection))
-        dialog.nameSelection(L" (wiersze " + std::to_wstring(rows->first + 1) + L"–" + std::to_wstring(rows->end) +
-                             L")");
+        dialog.nameSelection(L" (" + rowsText(rows->first + 1, rows->end) + L")");
 }
 
 QuotesPrinting::QuotesPrinting(QuotesTable& table, QuotesHandler& handler, DeskFonts& fonts)

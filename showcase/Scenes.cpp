@@ -65,7 +65,7 @@ bool Scenes::writeScene(const std::wstring& name) {
         written = writePreview(name);
     else if (name.starts_with(L"printer-dialog-"))
         written = writePrinterDialog(name);
-    else if (name == L"print-status")
+    else if (name.starts_with(L"print-status"))
         written = writePrintStatus(name);
     else if (name == L"chart-ids")
         written = tellWritten(writeIds(m_desk->chart().canvas().picture(), fileOf(name)), name);
@@ -107,19 +107,24 @@ bool Scenes::writePrinterDialog(const std::wstring& name) {
     return written;
 }
 
-/// Prints the whole table, and takes a picture of the status window while a page is being printed.
+/// Begins to print the whole table, and takes a picture of the status window while a page is being printed. One
+/// document is enough: in the black theme the user then cancels.
 bool Scenes::writePrintStatus(const std::wstring& name) {
+    const bool cancels = name.ends_with(L"-black");
     bool written = false;
     quotes().onPageDrawn = [&](int page) {
-        if (page != 1)
+        CWnd* const status = page == 1 ? statusWindow() : nullptr;
+        if (!status)
             return;
-        if (CWnd* status = statusWindow()) {
-            settle(*status);
-            written = writePicture(*status, name);
-        }
+        settle(*status);
+        written = writePicture(*status, name);
+        if (cancels)
+            status->SendMessage(WM_COMMAND, IDCANCEL);
     };
     const PrintReport report = m_desk->printing().printAll(*m_printer);
     quotes().onPageDrawn = nullptr;
+    if (cancels)
+        return written && report.outcome == PrintOutcome::Failed;
     if (report.outcome == PrintOutcome::Sent)
         printLine(report.text);
     else

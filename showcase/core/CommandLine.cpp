@@ -32,6 +32,7 @@ constexpr std::array Scenes{
     Scene{L"printer-dialog-white", true},
     Scene{L"printer-dialog-black", true},
     Scene{L"print-status", true},
+    Scene{L"print-status-black", true},
 };
 
 Refusal badInput(std::wstring text) {

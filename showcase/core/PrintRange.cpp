@@ -57,6 +57,12 @@ std::wstring pagesText(int pages) {
     return formatCount(pages, L"strona", L"strony", L"stron");
 }
 
+std::wstring rowsText(int first, int last) {
+    if (first == last)
+        return L"wiersz " + std::to_wstring(first);
+    return L"wiersze " + std::to_wstring(first) + L"–" + std::to_wstring(last);
+}
+
 std::wstring pageOfText(int page, int pages) {
     return L"Strona " + std::to_wstring(page) + L" z " + std::to_wstring(pages);
 }

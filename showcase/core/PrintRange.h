@@ -28,6 +28,9 @@ std::variant<PrintRange, RangeFault> readPrintRange(const std::wstring& from, co
 /// "9 stron" with the word in its form.
 std::wstring pagesText(int pages);
 
+/// "wiersze 3–9", both ends included.
+std::wstring rowsText(int first, int last);
+
 /// What stands on a page of paper: "Strona 3 z 9".
 std::wstring pageOfText(int page, int pages);
 

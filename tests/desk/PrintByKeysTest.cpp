@@ -11,6 +11,7 @@
 namespace {
 
 const std::wstring Title = L"Notowania";
+constexpr int ZoomOutId = 101;
 constexpr int ZoomInId = 102;
 constexpr int FitWidthId = 103;
 constexpr int FromId = 104;
@@ -147,9 +148,31 @@ TEST_F(PrintByKeys, TheVisibleAreaAndTheSelectionAreOffered) {
     support::chord({VK_MENU, 'Z'});
     support::typeKey(VK_RETURN);
     const std::vector<std::wstring> pages = output.pagesOf(Title);
-    EXPECT_NE(pages.front().find(L"zaznaczone wiersze"), std::wstring::npos);
+    EXPECT_NE(pages.front().find(L"wiersze 1–60 z 60"), std::wstring::npos);
     EXPECT_NE(pages.front().find(L"S00"), std::wstring::npos);
     EXPECT_NE(pages.back().find(L"S59"), std::wstring::npos);
+}
+
+TEST_F(PrintByKeys, TheVisibleAreaIsTheRowsInViewAlone) {
+    start();
+    support::chord({VK_CONTROL, 'P'});
+    const HWND choice = ::GetDlgItem(dialog(L"Drukuj"), FirstPartId + 3);
+    support::click(onScreen(choice, 5, 5));
+    EXPECT_TRUE(eventually([&] { return ::SendMessageW(choice, BM_GETCHECK, 0, 0) == BST_CHECKED; }));
+    RECT view{};
+    ::GetClientRect(body(), &view);
+    const int lastInView = view.bottom / rowHeight();
+    support::typeKey(VK_RETURN);
+    const std::vector<std::wstring> pages = output.pagesOf(Title);
+    ASSERT_EQ(pages.size(), 1U);
+    const auto shows = [&](int row) {
+        const std::wstring number = std::to_wstring(row);
+        return pages.front().find(L"S" + std::wstring(2 - number.size(), L'0') + number) != std::wstring::npos;
+    };
+    EXPECT_NE(pages.front().find(L"widoczny obszar"), std::wstring::npos);
+    EXPECT_TRUE(shows(0));
+    EXPECT_TRUE(shows(lastInView));
+    EXPECT_FALSE(shows(lastInView + 1));
 }
 
 TEST_F(PrintByKeys, ASelectionOfOneCellIsNotOffered) {
@@ -231,6 +254,54 @@ TEST_F(PrintByKeys, TheBarsOfThePreviewMoveItsPagesUnderTheMouse) {
     }
     support::click(onScreen(::GetDlgItem(preview, FitWidthId), 5, 5));
     EXPECT_TRUE(eventually([&] { return !::IsWindowVisible(::GetDlgItem(preview, AcrossBarId)); }));
+}
+
+TEST_F(PrintByKeys, APageOfThePreviewIsAsWideAsTheWindowWhateverItsScaleWas) {
+    start(printed.arguments);
+    support::chord({VK_CONTROL, VK_SHIFT, 'P'});
+    const HWND preview = dialog(L"Podgląd wydruku");
+    const HWND pages = ::GetDlgItem(preview, PagesId);
+    support::turnWheel(onScreen(pages, scaled(200), scaled(200)), WHEEL_DELTA); // hides the buttons
+    settle();
+    // The paper over the title, as wide as the page.
+    const auto paperWidth = [&] {
+        settle();
+        const support::Pixels picture = pixelsOf(pages);
+        const std::optional<RECT> paper = picture.part({0, 0, picture.width(), 8}).boundsOf(RGB(255, 255, 255));
+        return paper ? paper->right - paper->left : 0;
+    };
+    const int fitted = paperWidth();
+    EXPECT_EQ(fitted, pixelsOf(pages).width() - 10);
+    for (const int button : {ZoomOutId, ZoomInId}) {
+        for (int press = 0; press < 2; ++press) {
+            support::click(onScreen(::GetDlgItem(preview, button), 5, 5));
+        }
+        EXPECT_TRUE(eventually([&] { return paperWidth() != fitted; })) << button;
+        support::click(onScreen(::GetDlgItem(preview, FitWidthId), 5, 5));
+        EXPECT_TRUE(eventually([&] { return std::abs(paperWidth() - fitted) <= 1; })) << button;
+        EXPECT_FALSE(::IsWindowVisible(::GetDlgItem(preview, AcrossBarId))) << button;
+    }
+}
+
+TEST_F(PrintByKeys, KeysTurnThePagesOfThePreview) {
+    start(printed.arguments);
+    support::chord({VK_CONTROL, VK_SHIFT, 'P'});
+    const HWND preview = dialog(L"Podgląd wydruku");
+    const HWND pages = ::GetDlgItem(preview, PagesId);
+    support::turnWheel(onScreen(pages, scaled(200), scaled(200)), WHEEL_DELTA); // hides the buttons
+    settle();
+    const support::Pixels atTheTop = pixelsOf(pages);
+    for (const auto& [there, back] : {std::pair(VK_NEXT, VK_PRIOR), std::pair(VK_END, VK_HOME)}) {
+        support::typeKey(static_cast<WORD>(there));
+        EXPECT_TRUE(eventually([&] { return pixelsOf(pages) != atTheTop; })) << there;
+        support::typeKey(static_cast<WORD>(back));
+        EXPECT_TRUE(eventually([&] { return pixelsOf(pages) == atTheTop; })) << back;
+    }
+    typePage('O', L"34");
+    support::typeKey(VK_HOME);
+    support::typeText(L"12");
+    settle();
+    EXPECT_EQ(textOf(::GetDlgItem(preview, FromId)), L"1234") << "in a field they move the caret";
 }
 
 TEST_F(PrintByKeys, NothingBesideThePagesOfThePreviewIsLightInTheBlackTheme) {

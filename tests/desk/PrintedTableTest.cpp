@@ -144,7 +144,7 @@ TEST_F(PrintedTable, IsPrintedOnceWithPicturesOfThePrinting) {
     const TemporaryFolder folder;
     const DeskRun run = print({L"--shots", folder.file(L"out").wstring()});
     ASSERT_EQ(run.exitCode, 0) << run.errors;
-    for (const wchar_t* name : {L"preview-white", L"preview-black", L"print-status"})
+    for (const wchar_t* name : {L"preview-white", L"preview-black", L"print-status", L"print-status-black"})
         EXPECT_FALSE(bytesOf(folder.file(L"out\\" + std::wstring(name) + L".png")).empty());
     const std::string said = "Wysłano „Notowania”";
     EXPECT_NE(run.output.find(said), std::string::npos) << run.output;

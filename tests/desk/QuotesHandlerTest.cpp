@@ -201,6 +201,28 @@ TEST_F(QuotesInTable, APrintOfTheSelectionReachesFromItsFirstRowToItsLastWhereve
     EXPECT_EQ(m_handler.GetSelectedItemStart(), 1);
 }
 
+TEST_F(QuotesInTable, LockedColumnsThatReachBeyondTheViewAreFittedToThePageWhole) {
+    PrintDialogContext context;
+    context.FitToPageArea(true);
+    PrintInfoEx info(&context);
+    const CRect sheet(0, 0, scaled(420), scaled(300));
+    info.PrintAreaInObjectUnits(sheet);
+    CRect area = sheet;
+    area.DeflateRect(scaled(10), 0);
+    const auto drawPage = [&] {
+        const support::MemoryDevice paper(sheet.Width(), sheet.Height());
+        const std::vector<std::pair<unsigned __int64, int>> rows{{1, scaled(24)}, {2, scaled(24)}, {3, scaled(24)}};
+        EXPECT_TRUE(m_handler.DrawPrintRequestedItems(0, 2, area, info, rows, *CDC::FromHandle(paper.dc())));
+        return paper.pixels();
+    };
+    const support::Pixels whole = drawPage();
+    m_table.MoveWindow(0, 0, 400, 600); // the last columns lie outside
+    paint();
+    EXPECT_TRUE(samePixels(drawPage(), whole));
+    context.FitToPageArea(false);
+    EXPECT_FALSE(samePixels(drawPage(), whole)) << "only what the window shows";
+}
+
 TEST(DeskStatusLine, ANewTextRepaintsItsOwnFieldAlone) {
     support::ScopedTopLevelWindow window(CSize(1000, 60));
     DeskFonts fonts;

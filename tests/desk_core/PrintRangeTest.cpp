@@ -48,4 +48,6 @@ TEST(PrintRange, PagesAreToldInPolish) {
     EXPECT_EQ(pagesText(1), L"1\u00A0strona");
     EXPECT_EQ(pagesText(3), L"3\u00A0strony");
     EXPECT_EQ(pagesText(9), L"9\u00A0stron");
+    EXPECT_EQ(rowsText(3, 9), L"wiersze 3–9");
+    EXPECT_EQ(rowsText(4, 4), L"wiersz 4");
 }
