@@ -29,6 +29,7 @@ TEST(PreviewLayout, TheTotalHeightCountsGapsBetweenPagesAndBothMargins) {
     EXPECT_EQ(-5, PreviewLayout::totalHeight(300, 0));
     EXPECT_EQ(kMost, PreviewLayout::totalHeight(kMost, kMost));
     EXPECT_EQ(kMost, PreviewLayout::totalWidth(kMost, 5));
+    EXPECT_EQ(300, PreviewLayout::totalWidth(200, 50));
 }
 
 TEST(PreviewLayout, CentresPagesButNeverCloserThanFivePixels) {
@@ -111,4 +112,5 @@ TEST(PreviewLayout, PutsTheButtonsInTheLowerMiddle) {
     EXPECT_EQ((PreviewLayout::Box{105, 360, 145, 380}), buttons.increase);
     EXPECT_EQ((PreviewLayout::Box{155, 360, 195, 380}), buttons.decrease);
     EXPECT_EQ((PreviewLayout::Box{85, 340, 215, 400}), buttons.hot);
+    EXPECT_EQ(105, PreviewLayout::buttons(301, 400).increase.left) << "truncated";
 }
