@@ -288,14 +288,18 @@ TEST_F(PrintByKeys, KeysTurnThePagesOfThePreview) {
     support::chord({VK_CONTROL, VK_SHIFT, 'P'});
     const HWND preview = dialog(L"Podgląd wydruku");
     const HWND pages = ::GetDlgItem(preview, PagesId);
-    support::turnWheel(onScreen(pages, scaled(200), scaled(200)), WHEEL_DELTA); // hides the buttons
     settle();
-    const support::Pixels atTheTop = pixelsOf(pages);
+    // Without the zoom buttons, which come and go.
+    const auto upperPart = [&] {
+        const support::Pixels picture = pixelsOf(pages);
+        return picture.part({0, 0, picture.width(), picture.height() / 2});
+    };
+    const support::Pixels atTheTop = upperPart();
     for (const auto& [there, back] : {std::pair(VK_NEXT, VK_PRIOR), std::pair(VK_END, VK_HOME)}) {
         support::typeKey(static_cast<WORD>(there));
-        EXPECT_TRUE(eventually([&] { return pixelsOf(pages) != atTheTop; })) << there;
+        EXPECT_TRUE(eventually([&] { return upperPart() != atTheTop; })) << there;
         support::typeKey(static_cast<WORD>(back));
-        EXPECT_TRUE(eventually([&] { return pixelsOf(pages) == atTheTop; })) << back;
+        EXPECT_TRUE(eventually([&] { return upperPart() == atTheTop; })) << back;
     }
     typePage('O', L"34");
     support::typeKey(VK_HOME);
