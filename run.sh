@@ -98,7 +98,7 @@ write_shots() {
         DISPLAY='' "$root/scripts/printer.sh" "$printed/$dpi" "$root/scripts/wine-run.sh" "$dpi" "$desk" \
             "${options[@]}" --shots "$folder" --print "${printer:-PDF}" | sed 's/\r$//; s#\\#/#g'
     done
-    # The pages are the same whatever the screen; a run of one scene may print none.
+    # One set of pages is enough: at 144 DPI rows are rounded to other heights, nothing else. One scene may print none.
     if compgen -G "$printed/96/*.pdf" >/dev/null; then
         write_pages "$printed/96"
     fi
