@@ -244,11 +244,7 @@ void DeskOnScreen::settle() const {
 }
 
 void DeskOnScreen::drag(POINT from, POINT to) const {
-    support::moveMouse(from);
-    support::pressButton();
-    constexpr int Steps = 8;
-    for (int step = 1; step <= Steps; ++step)
-        support::moveMouse({from.x + (to.x - from.x) * step / Steps, from.y + (to.y - from.y) * step / Steps});
+    support::dragTo(from, to);
     // A move that comes together with the release is lost.
     settle();
     support::releaseButton();

@@ -37,7 +37,7 @@ protected:
         std::filesystem::remove(output.pdfOf(Title).replace_extension(L".txt"));
     }
 
-    /// The dialog with this title as soon as it can be typed into.
+    /// The dialog with this title once it has come to rest and can be typed into.
     HWND dialog(const wchar_t* title) const {
         HWND found = nullptr;
         EXPECT_TRUE(eventually([&] {
@@ -46,6 +46,10 @@ protected:
         })) << title;
         settle();
         return found;
+    }
+    HWND openPreview() const {
+        support::chord({VK_CONTROL, VK_SHIFT, 'P'});
+        return dialog(L"Podgląd wydruku");
     }
     static bool isOpen(const wchar_t* title) { return ::FindWindowW(nullptr, title) != nullptr; }
     /// Types a page into the field that "od" and "do" name.
@@ -184,8 +188,7 @@ TEST_F(PrintByKeys, ASelectionOfOneCellIsNotOffered) {
 
 TEST_F(PrintByKeys, ThePreviewIsPrintedWithItsRange) {
     start(printed.arguments);
-    support::chord({VK_CONTROL, VK_SHIFT, 'P'});
-    dialog(L"Podgląd wydruku");
+    openPreview();
     typePage('O', L"3");
     typePage('D', L"2");
     support::typeKey(VK_RETURN);
@@ -201,8 +204,7 @@ TEST_F(PrintByKeys, ThePreviewStopsRowsThatRunByThemselvesWhereTheyAre) {
     const support::Pixels atTheTop = pixelsOf(body());
     support::typeKey(VK_F6);
     EXPECT_TRUE(eventually([&] { return pixelsOf(body()) != atTheTop; }));
-    support::chord({VK_CONTROL, VK_SHIFT, 'P'});
-    dialog(L"Podgląd wydruku");
+    openPreview();
     support::typeKey(VK_ESCAPE);
     EXPECT_TRUE(eventually([&] { return !isOpen(L"Podgląd wydruku") && ::IsWindowEnabled(desk()); }));
     settle();
@@ -216,9 +218,7 @@ TEST_F(PrintByKeys, ThePreviewStopsRowsThatRunByThemselvesWhereTheyAre) {
 
 TEST_F(PrintByKeys, CtrlAndTheWheelChangeTheScaleOfThePreview) {
     start(printed.arguments);
-    support::chord({VK_CONTROL, VK_SHIFT, 'P'});
-    const HWND pages = ::GetDlgItem(dialog(L"Podgląd wydruku"), PagesId);
-    settle();
+    const HWND pages = ::GetDlgItem(openPreview(), PagesId);
     const support::Pixels before = pixelsOf(pages);
     {
         const support::HeldKey control(VK_CONTROL);
@@ -231,10 +231,8 @@ TEST_F(PrintByKeys, CtrlAndTheWheelChangeTheScaleOfThePreview) {
 
 TEST_F(PrintByKeys, TheBarsOfThePreviewMoveItsPagesUnderTheMouse) {
     start(printed.arguments);
-    support::chord({VK_CONTROL, VK_SHIFT, 'P'});
-    const HWND preview = dialog(L"Podgląd wydruku");
+    const HWND preview = openPreview();
     const HWND pages = ::GetDlgItem(preview, PagesId);
-    settle();
     EXPECT_FALSE(::IsWindowVisible(::GetDlgItem(preview, AcrossBarId))) << "the page is as wide as the window";
     support::click(onScreen(::GetDlgItem(preview, ZoomInId), 5, 5));
     EXPECT_TRUE(eventually([&] { return ::IsWindowVisible(::GetDlgItem(preview, AcrossBarId)); }));
@@ -248,7 +246,6 @@ TEST_F(PrintByKeys, TheBarsOfThePreviewMoveItsPagesUnderTheMouse) {
         const POINT end = onScreen(bar, track.width() - scaled(7), track.height() - scaled(7));
         drag(start, end);
         EXPECT_TRUE(eventually([&] { return pixelsOf(pages) != before && pixelsOf(bar) != track; })) << id;
-        settle();
         drag(end, start);
         EXPECT_TRUE(eventually([&] { return pixelsOf(pages) == before; })) << id;
     }
@@ -258,8 +255,7 @@ TEST_F(PrintByKeys, TheBarsOfThePreviewMoveItsPagesUnderTheMouse) {
 
 TEST_F(PrintByKeys, APageOfThePreviewIsAsWideAsTheWindowWhateverItsScaleWas) {
     start(printed.arguments);
-    support::chord({VK_CONTROL, VK_SHIFT, 'P'});
-    const HWND preview = dialog(L"Podgląd wydruku");
+    const HWND preview = openPreview();
     const HWND pages = ::GetDlgItem(preview, PagesId);
     support::turnWheel(onScreen(pages, scaled(200), scaled(200)), WHEEL_DELTA); // hides the buttons
     settle();
@@ -285,10 +281,8 @@ TEST_F(PrintByKeys, APageOfThePreviewIsAsWideAsTheWindowWhateverItsScaleWas) {
 
 TEST_F(PrintByKeys, KeysTurnThePagesOfThePreview) {
     start(printed.arguments);
-    support::chord({VK_CONTROL, VK_SHIFT, 'P'});
-    const HWND preview = dialog(L"Podgląd wydruku");
+    const HWND preview = openPreview();
     const HWND pages = ::GetDlgItem(preview, PagesId);
-    settle();
     // Without the zoom buttons, which come and go.
     const auto upperPart = [&] {
         const support::Pixels picture = pixelsOf(pages);
@@ -310,8 +304,7 @@ TEST_F(PrintByKeys, KeysTurnThePagesOfThePreview) {
 
 TEST_F(PrintByKeys, NothingBesideThePagesOfThePreviewIsLightInTheBlackTheme) {
     start({L"--theme", L"black"});
-    support::chord({VK_CONTROL, VK_SHIFT, 'P'});
-    const HWND preview = dialog(L"Podgląd wydruku");
+    const HWND preview = openPreview();
     support::click(onScreen(::GetDlgItem(preview, ZoomInId), 5, 5));
     EXPECT_TRUE(eventually([&] { return ::IsWindowVisible(::GetDlgItem(preview, AcrossBarId)); }));
     support::moveMouse(onScreen(preview, scaled(20), scaled(40)));
@@ -330,8 +323,7 @@ TEST_F(PrintByKeys, NothingBesideThePagesOfThePreviewIsLightInTheBlackTheme) {
 
 TEST_F(PrintByKeys, ABadRangeInThePreviewPrintsNothingAndKeepsWhatWasTyped) {
     start(printed.arguments);
-    support::chord({VK_CONTROL, VK_SHIFT, 'P'});
-    const HWND dialogWindow = dialog(L"Podgląd wydruku");
+    const HWND dialogWindow = openPreview();
     typePage('O', L"0");
     support::typeKey(VK_RETURN);
     settle();

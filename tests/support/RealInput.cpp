@@ -94,12 +94,16 @@ void doubleClick(POINT point, MouseButton button) {
     releaseButton(button);
 }
 
-void drag(POINT from, POINT to, int steps, MouseButton button) {
+void dragTo(POINT from, POINT to, int steps, MouseButton button) {
     moveMouse(from);
     pressButton(button);
     for (int step = 1; step <= steps; ++step) {
         moveMouse({from.x + (to.x - from.x) * step / steps, from.y + (to.y - from.y) * step / steps});
     }
+}
+
+void drag(POINT from, POINT to, int steps, MouseButton button) {
+    dragTo(from, to, steps, button);
     releaseButton(button);
 }
 

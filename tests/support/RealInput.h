@@ -18,7 +18,9 @@ void releaseButton(MouseButton button = MouseButton::Left);
 void click(POINT point, MouseButton button = MouseButton::Left);
 /// Two clicks without a pause; a third press soon after it counts as a new first one.
 void doubleClick(POINT point, MouseButton button = MouseButton::Left);
-/// Presses at `from`, moves to `to` in `steps` equal moves and releases there.
+/// Presses at `from`, moves to `to` in `steps` equal moves and stays there with the button down.
+void dragTo(POINT from, POINT to, int steps = 8, MouseButton button = MouseButton::Left);
+/// The same, and releases there.
 void drag(POINT from, POINT to, int steps = 8, MouseButton button = MouseButton::Left);
 /// At `point`; `delta` in units of WHEEL_DELTA (120) a notch, positive away from the user.
 void turnWheel(POINT point, int delta);
